@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "decks/bundle_deck.h"
+
+#include "platform/application_bundle.h"
+#include "platform/collation.h"
+#include "platform/debug_log.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// The names of the files in `folder` that can be pictures, in the order of
+/// the listing; none if the folder cannot be listed.
+std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
+{
+    static constexpr std::array extensions{QLatin1String("png"), QLatin1String("jpg"),
+                                           QLatin1String("jpeg")};
+    // QDir would answer a missing folder with an empty list.
+    const std::filesystem::path path(QFile::encodeName(folder).toStdString());
+    std::error_code error;
+    std::filesystem::directory_iterator entry(path, error);
+    std::vector<QString> names;
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const QString name = QFile::decodeName(entry->path().filename().c_str());
+        const QString extension = QFileInfo(name).suffix().toLower();
+        if (!name.startsWith(QLatin1Char('.')) &&
+            std::ranges::find(extensions, extension) != extensions.end())
+            names.push_back(name);
+    }
+    if (error)
+        return std::nullopt;
+    return names;
+}
+
+} // namespace
+
+CardPictures loadBundleDeck(const ApplicationBundle& bundle, const QString& deck)
+{
+    if (deck.isEmpty()) {
+        logLine(QStringLiteral("CardDeck ist leer"));
+        return {};
+    }
+    const auto resources = bundle.resourceFolder();
+    if (!resources) {
+        logLine(QStringLiteral("Bundle-Ordner Cards/") + deck + QStringLiteral(" nicht gefunden"));
+        return {};
+    }
+    const QString folder = *resources + QStringLiteral("/Cards/") + deck;
+    auto names = pictureFileNames(folder);
+    if (!names) {
+        logLine(QStringLiteral("Ordnerinhalt konnte nicht gelesen werden: ") + folder);
+        return {};
+    }
+    std::ranges::stable_sort(*names, sortsBefore);
+
+    CardPictures pictures;
+    for (const QString& name : *names) {
+        QImage image = QImageReader(folder + QLatin1Char('/') + name).read();
+        if (!image.isNull())
+            pictures.push_back({std::move(image), QFileInfo(name).completeBaseName()});
+    }
+    return pictures;
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "highscores/highscore_file.h"
+
+#include "platform/user_folders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+QString highscoreFolder()
+{
+    const QString support = applicationSupportFolder();
+    if (support.isEmpty())
+        return {};
+    const QString folder = support + QStringLiteral("/Paircade");
+    if (!QFile::exists(folder))
+        QDir().mkpath(folder);
+    return folder;
+}
+
+QString highscoreFile()
+{
+    const QString folder = highscoreFolder();
+    return folder.isEmpty() ? folder : folder + QStringLiteral("/highscores.json");
+}
+
+std::optional<HighscoreEntries> readHighscores(const QString& path)
+{
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray json = file.readAll();
+    // readAll() answers a failure with what it had got so far.
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return decodeHighscores(json);
+}
+
+bool writeHighscores(const QString& path, const HighscoreEntries& entries)
+{
+    QSaveFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(encodeHighscores(entries));
+    return file.commit();
+}

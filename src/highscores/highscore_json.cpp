@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "highscores/highscore_file.h"
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+#include <string>
+
+using nlohmann::json;
+using nlohmann::ordered_json;
+
+namespace {
+
+/// Reads the members of one object; remembers whether all were as they must be.
+class RecordReader {
+public:
+    explicit RecordReader(const json& object)
+        : m_object(object)
+        , m_isComplete(object.is_object())
+    {
+    }
+
+    [[nodiscard]] bool isComplete() const noexcept { return m_isComplete; }
+
+    template <class Value>
+    void require(const char* name, Value& target)
+    {
+        const json* const member = find(name);
+        if (member == nullptr || !read(*member, target))
+            m_isComplete = false;
+    }
+
+    template <class Value>
+    void allow(const char* name, std::optional<Value>& target)
+    {
+        const json* const member = find(name);
+        if (member == nullptr)
+            return;
+        Value value{};
+        if (read(*member, value))
+            target = std::move(value);
+        else
+            m_isComplete = false;
+    }
+
+private:
+    /// The member, or null if it is missing or holds null.
+    const json* find(const char* name) const
+    {
+        if (!m_object.is_object())
+            return nullptr;
+        const auto member = m_object.find(name);
+        return member == m_object.end() || member->is_null() ? nullptr : &*member;
+    }
+
+    static bool read(const json& member, QString& target)
+    {
+        if (!member.is_string())
+            return false;
+        target = QString::fromStdString(member.get_ref<const std::string&>());
+        return true;
+    }
+
+    static bool read(const json& member, std::int64_t& target)
+    {
+        if (member.is_number_unsigned()) {
+            const auto number = member.get<std::uint64_t>();
+            target = static_cast<std::int64_t>(number);
+            return target >= 0;
+        }
+        if (member.is_number_integer()) {
+            target = member.get<std::int64_t>();
+            return true;
+        }
+        if (!member.is_number_float())
+            return false;
+        // 2^63 is the first double above the range; -2^63 is the last within it.
+        constexpr double limit = 9223372036854775808.0;
+        const double number = member.get<double>();
+        if (number != std::floor(number) || number < -limit || number >= limit)
+            return false;
+        target = static_cast<std::int64_t>(number);
+        return true;
+    }
+
+    static bool read(const json& member, QUuid& target)
+    {
+        QString text;
+        if (!read(member, text) || !isUuid(text))
+            return false;
+        target = QUuid::fromString(text);
+        return true;
+    }
+
+    /// QUuid itself also takes braces and garbage after the last digit.
+    static bool isUuid(const QString& text)
+    {
+        static constexpr qsizetype length = 36;
+        if (text.size() != length)
+            return false;
+        for (qsizetype i = 0; i < length; ++i) {
+            const char16_t unit = text[i].unicode();
+            const bool isDigit = (unit >= u'0' && unit <= u'9') || (unit >= u'a' && unit <= u'f') ||
+                                 (unit >= u'A' && unit <= u'F');
+            const bool isHyphenPlace = i == 8 || i == 13 || i == 18 || i == 23;
+            if (isHyphenPlace ? unit != u'-' : !isDigit)
+                return false;
+        }
+        return true;
+    }
+
+    const json& m_object;
+    bool m_isComplete;
+};
+
+std::optional<HighscoreEntry> decodeEntry(const json& object)
+{
+    RecordReader reader(object);
+    HighscoreEntry entry;
+    reader.require("id", entry.id);
+    reader.require("gameMode", entry.gameMode);
+    reader.require("playerName", entry.playerName);
+    reader.allow("secondPlayerName", entry.secondPlayerName);
+    reader.allow("winnerName", entry.winnerName);
+    reader.require("elapsedSeconds", entry.elapsedSeconds);
+    reader.require("failedAttempts", entry.failedAttempts);
+    reader.allow("firstPlayerScore", entry.firstPlayerScore);
+    reader.allow("secondPlayerScore", entry.secondPlayerScore);
+    reader.require("amountCards", entry.amountCards);
+    reader.require("amountRounds", entry.amountRounds);
+    return reader.isComplete() ? std::optional(std::move(entry)) : std::nullopt;
+}
+
+ordered_json encodeEntry(const HighscoreEntry& entry)
+{
+    ordered_json object;
+    const auto put = [&object](const char* name, const auto& value) {
+        if constexpr (std::is_same_v<std::decay_t<decltype(value)>, QString>)
+            object[name] = value.toStdString();
+        else
+            object[name] = value;
+    };
+    const auto putIfPresent = [&put](const char* name, const auto& value) {
+        if (value)
+            put(name, *value);
+    };
+    put("id", entry.id.toString(QUuid::WithoutBraces).toUpper());
+    put("gameMode", entry.gameMode);
+    put("playerName", entry.playerName);
+    putIfPresent("secondPlayerName", entry.secondPlayerName);
+    putIfPresent("winnerName", entry.winnerName);
+    put("elapsedSeconds", entry.elapsedSeconds);
+    put("failedAttempts", entry.failedAttempts);
+    putIfPresent("firstPlayerScore", entry.firstPlayerScore);
+    putIfPresent("secondPlayerScore", entry.secondPlayerScore);
+    put("amountCards", entry.amountCards);
+    put("amountRounds", entry.amountRounds);
+    return object;
+}
+
+} // namespace
+
+std::optional<HighscoreEntries> decodeHighscores(const QByteArray& bytes)
+{
+    const json array = json::parse(bytes.begin(), bytes.end(), nullptr, false);
+    if (!array.is_array())
+        return std::nullopt;
+    HighscoreEntries entries;
+    entries.reserve(array.size());
+    for (const json& object : array) {
+        auto entry = decodeEntry(object);
+        if (!entry)
+            return std::nullopt;
+        entries.push_back(*std::move(entry));
+    }
+    return entries;
+}
+
+QByteArray encodeHighscores(const HighscoreEntries& entries)
+{
+    ordered_json array = ordered_json::array();
+    for (const HighscoreEntry& entry : entries)
+        array.push_back(encodeEntry(entry));
+    // A text from outside may hold half a surrogate pair; QString turns it into
+    // the replacement character on the way to UTF-8, so dump() cannot fail.
+    return QByteArray::fromStdString(array.dump(4)) + '\n';
+}

@@ -1,0 +1,11 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+/// Writes `text` to standard output, the debug log, as one line, at once.
+///
+/// Line breaks in it (a path may hold some) are written as \n and \r, so that
+/// one message stays one line. May be called on any thread.
+void logLine(QString text);

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+/// The user's folder for data of applications, `$XDG_DATA_HOME`; empty where
+/// the system names none. Source: freedesktop.org, XDG base directories.
+[[nodiscard]] QString applicationSupportFolder();
+
+/// The file of the settings, `$XDG_CONFIG_HOME/Paircade/Paircade.conf`.
+[[nodiscard]] QString settingsFile();

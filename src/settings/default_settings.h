@@ -1,0 +1,9 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class UserDefaults;
+
+/// Stores the default of every setting that is missing. A value that is there,
+/// of whatever type or range, is never overwritten.
+void createDefaultSettings(UserDefaults& defaults);
