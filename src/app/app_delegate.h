@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <memory>
+
+class ContentView;
+class MainWindow;
+
+/// Posted after the main window followed a change of the card layout.
+inline const QString gameLayoutChanged = QStringLiteral("gameLayoutChanged");
+
+/// Starts the game, owns its main window and marks on every way out that no
+/// game runs.
+class AppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    AppDelegate();
+    ~AppDelegate() override;
+
+    /// Stores missing settings, makes the one game and shows its window, in full
+    /// screen if the settings say so. Called once, at launch.
+    void applicationDidFinishLaunching();
+
+    /// Gives the window the size of the current layout and centres it; in full
+    /// screen only the board follows. Without a window nothing happens.
+    void updateWindowSizeForCurrentLayout();
+
+    /// Marks that no game runs. Closing the window announces it as well.
+    void applicationWillTerminate();
+
+    /// Brings the window, or the dialog above it, to the front.
+    void activate();
+
+    /// The main window; null before launch.
+    [[nodiscard]] MainWindow* window() const { return m_window.get(); }
+    [[nodiscard]] ContentView* contentView() const { return m_contentView; }
+
+private:
+    [[nodiscard]] bool windowShouldClose();
+
+    std::unique_ptr<MainWindow> m_window{};
+    ContentView* m_contentView = nullptr; ///< Owned by the window.
+};

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/app_delegate.h"
+#include "app/single_instance.h"
+#include "app/termination.h"
+#include "highscores/highscore_file.h"
+#include "platform/application_bundle.h"
+#include "platform/audio_player.h"
+#include "platform/localized_text.h"
+#include "platform/main_queue.h"
+#include "platform/notification_center.h"
+#include "platform/photo_library.h"
+#include "platform/platform.h"
+#include "platform/user_defaults.h"
+#include "platform/user_folders.h"
+#include "platform/widgets/alert_box.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <cstdio>
+
+namespace {
+
+/// Installs our texts and those of Qt's own controls in the user's language.
+void installCatalogues(QTranslator& ours, QTranslator& controls, const ApplicationBundle& bundle)
+{
+    const QString folder =
+        bundle.resourceFolder().value_or(QString()) + QStringLiteral("/translations");
+    if (!loadCatalogue(ours, folder, QLocale::system().uiLanguages()))
+        return;
+    QCoreApplication::installTranslator(&ours);
+    if (controls.load(QLocale(ours.language()), QStringLiteral("qtbase"), QStringLiteral("_"),
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&controls);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Paircade"));
+    QApplication::setApplicationVersion(QStringLiteral(PAIRCADE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.paircade.Paircade"));
+    // Closing the window ends the program in a way of its own.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    UserDefaults defaults(settingsFile());
+    const ApplicationBundle bundle = ApplicationBundle::ofRunningProgram();
+    MainQueue mainQueue;
+    NotificationCenter notifications;
+    AudioPlayer audio;
+    const PhotoLibrary photos;
+    AlertBox alerts;
+    const Platform services{defaults, bundle, mainQueue, notifications, audio, photos, alerts};
+    usePlatform(&services);
+
+    QTranslator ours;
+    QTranslator controls;
+    installCatalogues(ours, controls, bundle);
+    if (const auto icon = bundle.resource(QStringLiteral("icon"), QStringLiteral("png")))
+        QApplication::setWindowIcon(QIcon(*icon));
+
+    SingleInstance instance;
+    const SingleInstance::Claim claim = instance.claim(highscoreFolder());
+    if (claim == SingleInstance::Claim::handedOver)
+        return 0;
+    if (claim == SingleInstance::Claim::noAnswer) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(localizedText("already_running")));
+        showInformation(QStringLiteral("Paircade"), localizedText("already_running"));
+        return 1;
+    }
+
+    const Termination termination;
+    AppDelegate delegate;
+    QObject::connect(&instance, &SingleInstance::startedAgain, &delegate,
+                     [&delegate](const QByteArray& activationToken) {
+                         if (!activationToken.isEmpty())
+                             qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+                         delegate.activate();
+                     });
+    delegate.applicationDidFinishLaunching();
+    const int status = QApplication::exec();
+    delegate.applicationWillTerminate();
+    return status;
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+
+/// The main window: a menu above the screen, at a size of the game's choosing.
+///
+/// The user cannot resize it. In full screen it is as large as the screen.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow();
+
+    /// Asked when the user closes the window; false keeps it open.
+    std::function<bool()> shouldClose{};
+
+    /// Gives the screen below the menu `size` points, or what the display has
+    /// room for, and forbids other sizes. Full screen keeps its size and takes
+    /// this one on return.
+    void setContentSize(QSize size);
+
+    /// Moves the window to the middle of the display's free area.
+    void centre();
+
+    void toggleFullScreen();
+
+Q_SIGNALS:
+    void fullScreenChanged(bool isFullScreen);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void applyContentSize();
+    void settle();
+    void liftLimits();
+
+    QSize m_contentSize{};
+};

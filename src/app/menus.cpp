@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/menus.h"
+
+#include "app/main_window.h"
+#include "game/memory_game.h"
+#include "platform/localized_text.h"
+#include "platform/widgets/alert_box.h"
+#include "platform/widgets/control_text.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <utility>
+
+Menus::Menus(MainWindow& window, MemoryGame& game)
+    : QObject(&window)
+    , m_window(window)
+    , m_game(game)
+{
+    QMenu* const gameMenu = addMenu("menu_game");
+    m_newGame = addItem(gameMenu, "menu_new_game", [this] {
+        // The shortcut may come before the item is disabled.
+        if (!m_game.isGameActive())
+            m_game.startNewGame();
+    });
+    m_newGame->setShortcut(QKeySequence::New);
+    m_endGame = addItem(gameMenu, "menu_end_game", [this] { m_game.endGame(); });
+    gameMenu->addSeparator();
+    addItem(gameMenu, "menu_open_highscores_html", [] {})->setEnabled(false);
+    m_restoreHighscores =
+        addItem(gameMenu, "menu_restore_highscores", [this] { m_game.restoreHighscores(); });
+    gameMenu->addSeparator();
+    // exit() and not quit(), which would close the window and so be announced.
+    QAction* const quit = addItem(gameMenu, "menu_quit", [] { QCoreApplication::exit(0); });
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setMenuRole(QAction::QuitRole);
+
+    QMenu* const viewMenu = addMenu("menu_view");
+    QAction* const fullScreen =
+        addItem(viewMenu, "menu_full_screen", [this] { m_window.toggleFullScreen(); });
+    fullScreen->setShortcut(QKeySequence(Qt::Key_F11));
+    fullScreen->setCheckable(true);
+    connect(&m_window, &MainWindow::fullScreenChanged, fullScreen, &QAction::setChecked);
+
+    QMenu* const helpMenu = addMenu("menu_help");
+    addItem(helpMenu, "menu_keyboard", [] {
+        showInformation(localizedText("menu_keyboard"), localizedText("keyboard_help"));
+    });
+    QAction* const about = addItem(helpMenu, "menu_about", [] {
+        showInformation(localizedText("menu_about"),
+                        localizedText("about_text", {QStringLiteral(PAIRCADE_VERSION)}));
+    });
+    about->setMenuRole(QAction::AboutRole);
+
+    connect(&m_game, &MemoryGame::changed, this, &Menus::scheduleRefresh);
+    refresh();
+}
+
+QMenu* Menus::addMenu(const char* key)
+{
+    QMenu* const menu = m_window.menuBar()->addMenu(controlText(key));
+    menu->setObjectName(QString::fromLatin1(key));
+    return menu;
+}
+
+QAction* Menus::addItem(QMenu* menu, const char* key, const std::function<void()>& action)
+{
+    QAction* const item = menu->addAction(controlText(key));
+    item->setObjectName(QString::fromLatin1(key));
+    connect(item, &QAction::triggered, this, action);
+    return item;
+}
+
+void Menus::scheduleRefresh()
+{
+    if (std::exchange(m_isRefreshScheduled, true))
+        return;
+    QMetaObject::invokeMethod(this, &Menus::refresh, Qt::QueuedConnection);
+}
+
+void Menus::refresh()
+{
+    m_isRefreshScheduled = false;
+    m_newGame->setEnabled(!m_game.isGameActive() && m_game.canStart());
+    m_endGame->setEnabled(m_game.isGameActive());
+    m_restoreHighscores->setEnabled(m_game.canRestoreHighscores());
+}

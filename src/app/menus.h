@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+class MainWindow;
+class MemoryGame;
+class QAction;
+class QMenu;
+
+/// The menu bar of the main window.
+class Menus : public QObject {
+    Q_OBJECT
+
+public:
+    Menus(MainWindow& window, MemoryGame& game);
+
+private:
+    [[nodiscard]] QMenu* addMenu(const char* key);
+    QAction* addItem(QMenu* menu, const char* key, const std::function<void()>& action);
+    void scheduleRefresh();
+    void refresh();
+
+    MainWindow& m_window;
+    MemoryGame& m_game;
+    QAction* m_newGame = nullptr;
+    QAction* m_endGame = nullptr;
+    QAction* m_restoreHighscores = nullptr;
+    bool m_isRefreshScheduled = false;
+};

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/alerts.h"
+
+/// Alerts as message boxes over the active window.
+class AlertBox : public Alerts {
+public:
+    void warn(const QString& messageText, const QString& informativeText,
+              const QString& buttonTitle) override;
+};
+
+/// Shows `text` in a modal box named `title`, with one button; plain text.
+void showInformation(const QString& title, const QString& text);

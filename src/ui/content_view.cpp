@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/content_view.h"
+
+#include "ui/colours.h"
+#include "ui/game_board.h"
+#include "ui/header.h"
+#include "ui/left_sidebar.h"
+#include "ui/logo.h"
+#include "ui/screen_metrics.h"
+#include "ui/start_forms.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <array>
+#include <initializer_list>
+#include <utility>
+
+namespace {
+
+/// The line between sidebar and board.
+class Divider : public QWidget {
+public:
+    explicit Divider(QWidget* parent)
+        : QWidget(parent)
+    {
+        setObjectName(QStringLiteral("divider"));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter(this).fillRect(rect(), Colours::withOpacity(Colours::gray, 0.35));
+    }
+};
+
+} // namespace
+
+ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
+    : QWidget(parent)
+    , m_game(std::move(game))
+    , m_header(new Header(*m_game, this))
+    , m_leftSidebar(new LeftSidebar(*m_game, this))
+    , m_singlePlayerStartView(new SinglePlayerStartView(*m_game, this))
+    , m_versusStartView(new VersusStartView(*m_game, this))
+    , m_boardArea(new QScrollArea(this))
+    , m_gameBoard(new GameBoard(*m_game, nullptr))
+    , m_divider(new Divider(this))
+    , m_logo(new LogoView(this))
+{
+    m_boardArea->setFrameShape(QFrame::NoFrame);
+    m_boardArea->setFocusPolicy(Qt::NoFocus);
+    m_boardArea->setWidgetResizable(true);
+    m_boardArea->setWidget(m_gameBoard);
+    connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,
+            [this](QWidget* tile) { m_boardArea->ensureWidgetVisible(tile, 20, 20); });
+
+    connect(m_game.get(), &MemoryGame::changed, this, &ContentView::noteChange);
+    QCoreApplication::instance()->installEventFilter(this);
+    refresh();
+}
+
+ContentView::~ContentView() = default;
+
+double ContentView::calculateCardSize(QSizeF windowSize) const
+{
+    return ScreenMetrics::calculateCardSize(windowSize, m_game->cardColumns(), m_game->cardRows());
+}
+
+QSize ContentView::minimumSizeHint() const
+{
+    return {1100, 650};
+}
+
+void ContentView::layOut()
+{
+    using namespace ScreenMetrics;
+    m_header->setGeometry(0, 0, width(), headerHeight);
+    m_leftSidebar->setGeometry(0, headerHeight, dividerX, height() - headerHeight);
+    const QRect main(dividerX, headerHeight, width() - dividerX, height() - headerHeight);
+    for (QWidget* const content :
+         std::initializer_list<QWidget*>{m_singlePlayerStartView, m_versusStartView, m_boardArea})
+        content->setGeometry(main);
+    m_divider->setGeometry(dividerX, 0, 1, height());
+    m_logo->setGeometry(leadingPadding, 22, 180, 180);
+    m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
+}
+
+void ContentView::resizeEvent(QResizeEvent*)
+{
+    layOut();
+}
+
+void ContentView::showEvent(QShowEvent*)
+{
+    refresh();
+}
+
+void ContentView::noteChange(MemoryGame::Member member)
+{
+    if (member == MemoryGame::Member::isGameActive)
+        m_needsFocus = true;
+    scheduleRefresh();
+}
+
+void ContentView::scheduleRefresh()
+{
+    if (std::exchange(m_isRefreshScheduled, true))
+        return;
+    QMetaObject::invokeMethod(this, &ContentView::refreshIfScheduled, Qt::QueuedConnection);
+}
+
+void ContentView::refreshIfScheduled()
+{
+    if (std::exchange(m_isRefreshScheduled, false))
+        refresh();
+}
+
+void ContentView::refresh()
+{
+    m_singlePlayerStartView->refresh();
+    m_versusStartView->refresh();
+    m_gameBoard->refresh();
+    m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
+    showMainContent();
+    m_leftSidebar->refresh();
+    m_header->refresh();
+}
+
+void ContentView::showMainContent()
+{
+    const bool isBoard = m_game->isGameActive();
+    const bool isVersusForm = !isBoard && m_game->isVersusMode();
+    const std::array<std::pair<QWidget*, bool>, 3> contents{
+        {{m_boardArea, isBoard},
+         {m_versusStartView, isVersusForm},
+         {m_singlePlayerStartView, !isBoard && !isVersusForm}}};
+
+    // What comes has the focus before what goes is hidden: else it would pass
+    // to the next control in line, which may be the reset button.
+    for (const auto& [content, isShown] : contents) {
+        if (isShown)
+            content->show();
+    }
+    if (m_needsFocus && isVisible()) {
+        m_needsFocus = false;
+        giveFocus();
+        m_ignoresRepeats = true;
+    }
+    for (const auto& [content, isShown] : contents) {
+        if (!isShown)
+            content->hide();
+    }
+}
+
+void ContentView::giveFocus()
+{
+    if (m_game->isGameActive())
+        m_gameBoard->focusCard(0);
+    else if (m_game->isVersusMode())
+        m_versusStartView->focusField();
+    else
+        m_singlePlayerStartView->focusField();
+}
+
+bool ContentView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress)
+        m_gameBoard->setFocusRingShown(false);
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+
+    // A key goes to what the game has come to, also if it was not shown yet.
+    if (watched->isWindowType())
+        refreshIfScheduled();
+    m_gameBoard->setFocusRingShown(true);
+    // A key still held when its view went must not act on the next one.
+    if (!static_cast<QKeyEvent*>(event)->isAutoRepeat())
+        m_ignoresRepeats = false;
+    return m_ignoresRepeats;
+}

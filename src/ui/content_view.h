@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "game/memory_game.h"
+
+#include <QWidget>
+#include <memory>
+
+class GameBoard;
+class Header;
+class LeftSidebar;
+class LogoView;
+class QScrollArea;
+class SinglePlayerStartView;
+class VersusStartView;
+
+/// The single screen of the main window: title strip, sidebar and, beside it,
+/// the board of the running game or the form that starts one.
+///
+/// Shows what the game holds. However much of it changes in a turn of the event
+/// loop, the screen follows once, after it, or before the next key.
+class ContentView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent = nullptr);
+    ~ContentView() override;
+
+    [[nodiscard]] MemoryGame& game() { return *m_game; }
+
+    /// The edge of a card in a view of `windowSize` for the current layout.
+    [[nodiscard]] double calculateCardSize(QSizeF windowSize) const;
+
+    /// Lays the screen out for its size and the current layout.
+    void layOut();
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void noteChange(MemoryGame::Member member);
+    void scheduleRefresh();
+    void refreshIfScheduled();
+    void refresh();
+    void showMainContent();
+    void giveFocus();
+
+    std::unique_ptr<MemoryGame> m_game;
+    Header* m_header;
+    LeftSidebar* m_leftSidebar;
+    SinglePlayerStartView* m_singlePlayerStartView;
+    VersusStartView* m_versusStartView;
+    QScrollArea* m_boardArea;
+    GameBoard* m_gameBoard;
+    QWidget* m_divider;
+    LogoView* m_logo;
+
+    bool m_isRefreshScheduled = false;
+    bool m_needsFocus = true;      ///< Another view comes, or a start came to nothing.
+    bool m_ignoresRepeats = false; ///< A key that ended one view is still held.
+};

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/elided_label.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+ElidedLabel::ElidedLabel(const QString& objectName, QWidget* parent)
+    : QLabel(parent)
+{
+    setObjectName(objectName);
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, fontMetrics().height()};
+}
+
+bool ElidedLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    // Rich text is asked for, so that the name "<b>" is not taken for it.
+    if (shownText() != text())
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           QStringLiteral("<p>") + text().toHtmlEscaped() + QStringLiteral("</p>"),
+                           this);
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
+                          isEnabled(), shownText(), foregroundRole());
+}
+
+QString ElidedLabel::shownText() const
+{
+    // A name from an edited file may hold line breaks.
+    QString line = text();
+    line.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
+    return fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width());
+}

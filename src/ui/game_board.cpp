@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/game_board.h"
+
+#include "game/memory_game.h"
+#include "platform/localized_text.h"
+#include "platform/platform.h"
+#include "platform/user_defaults.h"
+#include "settings/settings_keys.h"
+#include "ui/colours.h"
+#include "ui/memory_card_view.h"
+#include "ui/screen_metrics.h"
+
+#include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int sidePadding = 24;
+constexpr int endPadding = 12;
+constexpr int spacerAbove = 10; ///< Least room above the grid.
+constexpr int spacerBelow = 20; ///< Least room below it.
+constexpr qreal ringDistance = 7.5;
+constexpr qreal ringWidth = 3;
+constexpr qreal ringRadius = 21.5;
+constexpr int ringReach = 10;
+
+} // namespace
+
+GameBoard::GameBoard(MemoryGame& game, QWidget* parent)
+    : QWidget(parent)
+    , m_game(game)
+{
+    setObjectName(QStringLiteral("gameBoard"));
+    setAccessibleName(localizedText("board_accessible_name"));
+}
+
+void GameBoard::refresh()
+{
+    const MemoryCards& cards = m_game.cards();
+    const bool isSameBoard = std::ranges::equal(cards, m_tiles, {}, &MemoryCard::id,
+                                                [](const auto* tile) { return tile->card().id; });
+    if (!isSameBoard)
+        replaceTiles(cards);
+    const bool removeMatch = platform().defaults.integer(SettingsKeys::RemoveMatch) == 1;
+    for (std::size_t i = 0; i < cards.size(); ++i)
+        m_tiles[i]->show(cards[i], removeMatch, accessibleText(cards[i], i, removeMatch));
+}
+
+void GameBoard::replaceTiles(const MemoryCards& cards)
+{
+    const std::vector<MemoryCardView*> leaving = std::exchange(m_tiles, {});
+    const bool hadFocus = std::ranges::any_of(leaving, &QWidget::hasFocus);
+    for (std::size_t i = 0; i < cards.size(); ++i) {
+        auto* const tile = new MemoryCardView(cards[i], this);
+        tile->setObjectName(QStringLiteral("card%1").arg(i));
+        connect(tile, &MemoryCardView::clicked, this,
+                [this, tile] { m_game.flipCard(tile->card()); });
+        connect(
+            tile, &MemoryCardView::navigated, this,
+            [this, i](int key, Qt::KeyboardModifiers modifiers) { navigate(i, key, modifiers); });
+        tile->installEventFilter(this);
+        tile->setVisible(true);
+        m_tiles.push_back(tile);
+    }
+    arrange();
+    update();
+
+    // Before the old tiles go: the focus of a hidden one would wander off.
+    if (hadFocus)
+        focusCard(m_focusedPosition);
+    for (MemoryCardView* const tile : leaving) {
+        tile->hide();
+        tile->deleteLater();
+    }
+}
+
+void GameBoard::setGrid(int columns, double cardSize)
+{
+    if (columns == m_columns && cardSize == m_cardSize)
+        return;
+    m_columns = columns;
+    m_cardSize = cardSize;
+    updateGeometry();
+    arrange();
+    update();
+}
+
+QSizeF GameBoard::gridSize() const
+{
+    const auto length = [this](int cards) {
+        return cards * m_cardSize + std::max(0, cards - 1) * ScreenMetrics::spacing;
+    };
+    const int rows = (static_cast<int>(m_tiles.size()) + m_columns - 1) / m_columns;
+    return {length(m_columns), length(rows)};
+}
+
+QSize GameBoard::minimumSizeHint() const
+{
+    const QSizeF room =
+        gridSize() + QSizeF(2 * sidePadding, 2 * endPadding + 2 * ScreenMetrics::spacing +
+                                                 spacerAbove + spacerBelow);
+    return {qCeil(room.width()), qCeil(room.height())};
+}
+
+void GameBoard::arrange()
+{
+    // The grid lies between two spacers that share what is left evenly, unless
+    // one of them would fall below its least length.
+    const QSizeF grid = gridSize();
+    const double rest = height() - 2 * endPadding - 2 * ScreenMetrics::spacing - grid.height();
+    const double above = std::max<double>(spacerAbove, std::min(rest / 2, rest - spacerBelow));
+    const int top = qRound(endPadding + above + ScreenMetrics::spacing);
+    const int left = qRound((width() - grid.width()) / 2);
+    const double pitch = m_cardSize + ScreenMetrics::spacing;
+    for (std::size_t i = 0; i < m_tiles.size(); ++i) {
+        const int column = static_cast<int>(i) % m_columns;
+        const int row = static_cast<int>(i) / m_columns;
+        m_tiles[i]->setGeometry(left + qRound(column * pitch), top + qRound(row * pitch),
+                                qRound(m_cardSize), qRound(m_cardSize));
+    }
+}
+
+QRectF GameBoard::place(const MemoryCardView& tile) const
+{
+    return {QPointF(tile.pos()), QSizeF(m_cardSize, m_cardSize)};
+}
+
+void GameBoard::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    for (MemoryCardView* const tile : m_tiles) {
+        const QRect reach = tile->geometry().adjusted(-ringReach, -ringReach, ringReach, ringReach);
+        if (event->region().intersects(reach))
+            tile->paint(painter, place(*tile));
+    }
+    if (m_isFocusRingShown && m_focusedPosition < m_tiles.size() &&
+        m_tiles[m_focusedPosition]->hasFocus()) {
+        painter.setPen(QPen(Colours::focusRing(palette()), ringWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(
+            place(*m_tiles[m_focusedPosition])
+                .adjusted(-ringDistance, -ringDistance, ringDistance, ringDistance),
+            ringRadius, ringRadius);
+    }
+}
+
+void GameBoard::resizeEvent(QResizeEvent*)
+{
+    arrange();
+}
+
+bool GameBoard::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        const auto tile = std::ranges::find(m_tiles, watched);
+        if (tile != m_tiles.end()) {
+            if (event->type() == QEvent::FocusIn)
+                m_focusedPosition = static_cast<std::size_t>(tile - m_tiles.begin());
+            update((*tile)->geometry().adjusted(-ringReach, -ringReach, ringReach, ringReach));
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void GameBoard::focusCard(std::size_t position)
+{
+    if (m_tiles.empty())
+        return;
+    MemoryCardView* const tile = m_tiles[std::min(position, m_tiles.size() - 1)];
+    tile->setFocus(Qt::OtherFocusReason);
+    Q_EMIT focusMoved(tile);
+}
+
+void GameBoard::setFocusRingShown(bool isShown)
+{
+    if (isShown == m_isFocusRingShown)
+        return;
+    m_isFocusRingShown = isShown;
+    update();
+}
+
+void GameBoard::navigate(std::size_t from, int key, Qt::KeyboardModifiers modifiers)
+{
+    const auto columns = static_cast<std::size_t>(m_columns);
+    const std::size_t last = m_tiles.size() - 1;
+    const std::size_t rowStart = from - from % columns;
+    const bool wholeBoard = modifiers.testFlag(Qt::ControlModifier);
+    std::size_t to = from;
+    if (key == Qt::Key_Left && from > rowStart)
+        to = from - 1;
+    else if (key == Qt::Key_Right && from < rowStart + columns - 1)
+        to = from + 1;
+    else if (key == Qt::Key_Up && from >= columns)
+        to = from - columns;
+    else if (key == Qt::Key_Down && from + columns <= last)
+        to = from + columns;
+    else if (key == Qt::Key_Home)
+        to = wholeBoard ? 0 : rowStart;
+    else if (key == Qt::Key_End)
+        to = wholeBoard ? last : rowStart + columns - 1;
+    focusCard(to);
+}
+
+QString GameBoard::accessibleText(const MemoryCard& card, std::size_t position,
+                                  bool removeMatch) const
+{
+    const auto columns = static_cast<std::size_t>(m_columns);
+    const std::size_t row = position / columns + 1;
+    const std::size_t column = position % columns + 1;
+    if (!card.isFaceUp && !card.isMatched)
+        return localizedText("tile_hidden", {row, column});
+    if (card.isMatched && removeMatch)
+        return localizedText("tile_removed", {row, column});
+    // A deck without translated names still has its file names.
+    const QString key = QStringLiteral("card_") + card.image.name;
+    QString name =
+        card.image.name.isEmpty() ? localizedText("picture_without_name") : localizedText(key);
+    if (name == key)
+        name = card.image.name;
+    return localizedText(card.isMatched ? "tile_found" : "tile_turned", {row, column, name});
+}

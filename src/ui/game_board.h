@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "game/memory_card.h"
+
+#include <QPointF>
+#include <QUuid>
+#include <QWidget>
+#include <cstddef>
+#include <vector>
+
+class MemoryCardView;
+class MemoryGame;
+
+/// The grid of cards. Owns one tile per card and keeps it as long as the card
+/// lies on the board; paints all of them, and the focus ring.
+class GameBoard : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit GameBoard(MemoryGame& game, QWidget* parent);
+
+    /// Brings the tiles up to date with the game. The focus stays at its place
+    /// when another board is dealt.
+    void refresh();
+
+    /// Lays the tiles out in `columns` with cards of `cardSize` points.
+    void setGrid(int columns, double cardSize);
+
+    /// Gives the focus to the card at `position`, the last one if beyond it.
+    void focusCard(std::size_t position);
+
+    /// Whether the focused card wears its ring: after a key, not after a press.
+    void setFocusRingShown(bool isShown);
+
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// A card got the focus by a key or by the game, and should be seen.
+    void focusMoved(QWidget* tile);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void replaceTiles(const MemoryCards& cards);
+    void arrange();
+    [[nodiscard]] QSizeF gridSize() const;
+    [[nodiscard]] QRectF place(const MemoryCardView& tile) const;
+    [[nodiscard]] QString accessibleText(const MemoryCard& card, std::size_t position,
+                                         bool removeMatch) const;
+    void navigate(std::size_t from, int key, Qt::KeyboardModifiers modifiers);
+
+    MemoryGame& m_game;
+    std::vector<MemoryCardView*> m_tiles{};
+    int m_columns = 1;
+    double m_cardSize = 0;
+    std::size_t m_focusedPosition = 0;
+    bool m_isFocusRingShown = false;
+};

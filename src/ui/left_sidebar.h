@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/highscore_section.h"
+
+#include <QScrollArea>
+#include <vector>
+
+class ElidedLabel;
+class MemoryGame;
+class QCheckBox;
+class QPushButton;
+
+/// The column beside the board: players and scores, highscores, actions.
+class LeftSidebar : public QScrollArea {
+    Q_OBJECT
+
+public:
+    LeftSidebar(MemoryGame& game, QWidget* parent);
+
+    void refresh();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    /// A place in the column; a hidden widget takes no room.
+    struct Row {
+        QWidget* widget = nullptr;
+        int width = 0;
+        int above = 0; ///< In addition to the column's gap.
+        int below = 0;
+        bool isHighscore = false; ///< Gaps between such rows may shrink.
+    };
+
+    [[nodiscard]] ElidedLabel* addLine(const char* name, int width, const QFont& font);
+    [[nodiscard]] QPushButton* addButton(const char* key, const char* name, int above);
+    void refreshPlayerLines();
+    void applyColours();
+    void arrange();
+
+    MemoryGame& m_game;
+    QWidget* m_column;
+    std::vector<Row> m_rows{};
+    ElidedLabel* m_pairingLine;
+    ElidedLabel* m_firstScoreLine;
+    ElidedLabel* m_secondScoreLine;
+    ElidedLabel* m_nameLine;
+    ElidedLabel* m_timeLine;
+    ElidedLabel* m_failuresLine;
+    HighscoreSection m_highscores;
+    QPushButton* m_resetButton = nullptr;
+    QPushButton* m_reportButton = nullptr;
+    QCheckBox* m_versusCheckbox = nullptr;
+    QPushButton* m_endButton = nullptr;
+};
