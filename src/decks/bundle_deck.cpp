@@ -24,6 +24,9 @@ std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
 {
     static constexpr std::array extensions{QLatin1String("png"), QLatin1String("jpg"),
                                            QLatin1String("jpeg")};
+    // The system would take a name for ending there.
+    if (folder.contains(QChar::Null))
+        return std::nullopt;
     // QDir would answer a missing folder with an empty list.
     const std::filesystem::path path(QFile::encodeName(folder).toStdString());
     std::error_code error;

@@ -9,6 +9,7 @@ void logLine(QString text)
     text.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
     text.replace(QLatin1Char('\r'), QStringLiteral("\\r"));
     // One call, since the sound thread logs as well.
-    std::fputs((text + QLatin1Char('\n')).toUtf8().constData(), stdout);
+    const QByteArray line = text.toUtf8() + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stdout);
     std::fflush(stdout);
 }

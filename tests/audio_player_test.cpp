@@ -1,0 +1,301 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/application_bundle.h"
+#include "platform/audio_player.h"
+
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLocalServer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <QtEndian>
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <numbers>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Samples = std::vector<int>;
+
+constexpr int rate = 44100;
+constexpr int flatPeak = 16000;
+constexpr int tonePeak = 8000;
+constexpr double toneSeconds = 0.3;
+constexpr double flatSeconds = 1.2;
+
+/// What the child says of a performance, and what the disk driver wrote.
+struct Performance {
+    QByteArrayList failures{};
+    double slowestCall = 0; ///< in milliseconds
+    double farewell = 0;    ///< what destroying the player took, in milliseconds
+    Samples left{};
+};
+
+/// The child's part, since SDL takes its driver once: each argument is a
+/// number of milliseconds to wait, "prepare", or a file and its volume.
+int perform(const QStringList& script)
+{
+    std::optional<AudioPlayer> player(std::in_place);
+    QElapsedTimer clock;
+    qint64 slowest = 0;
+    for (const QString& step : script) {
+        bool isPause = false;
+        const unsigned long pause = step.toULong(&isPause);
+        if (isPause) {
+            QThread::msleep(pause);
+            continue;
+        }
+        clock.start();
+        if (step == u"prepare"_s)
+            player->prepare();
+        else
+            player->play(step.section(u'@', 0, 0), step.section(u'@', 1).toDouble(),
+                         [](const QString& text) { std::printf("%s\n", qPrintable(text)); });
+        slowest = std::max(slowest, clock.nsecsElapsed());
+    }
+    clock.start();
+    player.reset();
+    std::printf("%g\n%g\n", double(slowest) / 1e6, double(clock.nsecsElapsed()) / 1e6);
+    return 0;
+}
+
+/// Writes a sound of one channel, `seconds` long.
+void writeSound(const QString& path, double seconds, const std::function<double(double)>& sample)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("the test cannot write its sound");
+    QDataStream out(&file);
+    out.setByteOrder(QDataStream::LittleEndian);
+    const auto count = static_cast<quint32>(seconds * rate);
+    out.writeRawData("RIFF", 4);
+    out << 36 + 2 * count;
+    out.writeRawData("WAVEfmt ", 8);
+    out << quint32{16} << quint16{1} << quint16{1} << quint32{rate} << quint32{2 * rate}
+        << quint16{2} << quint16{16};
+    out.writeRawData("data", 4);
+    out << 2 * count;
+    for (quint32 i = 0; i < count; ++i) {
+        // 10 ms to come and go, so that the sound itself does not click.
+        const double time = double(i) / rate;
+        const double edge = std::min({1.0, time / 0.01, (seconds - time) / 0.01});
+        out << static_cast<qint16>(std::lround(edge * sample(time)));
+    }
+}
+
+/// Place of the first sample from `begin` on that is louder than `level`.
+std::size_t onset(const Samples& samples, std::size_t begin, int level)
+{
+    const auto first = samples.begin() + std::ptrdiff_t(std::min(begin, samples.size()));
+    const auto found =
+        std::find_if(first, samples.end(), [=](int s) { return std::abs(s) > level; });
+    return std::size_t(found - samples.begin());
+}
+
+/// Place behind the last sample louder than `level`.
+std::size_t lastAbove(const Samples& samples, int level)
+{
+    const auto found =
+        std::find_if(samples.rbegin(), samples.rend(), [=](int s) { return std::abs(s) > level; });
+    return std::size_t(samples.rend() - found);
+}
+
+/// How much of the pitch `hertz` is in the 60 ms from `begin` on.
+double strength(const Samples& samples, std::size_t begin, double hertz)
+{
+    double sine = 0;
+    double cosine = 0;
+    for (std::size_t i = begin; i < std::min(begin + rate * 6 / 100, samples.size()); ++i) {
+        const double phase = 2 * std::numbers::pi * hertz * double(i) / rate;
+        sine += samples[i] * std::sin(phase);
+        cosine += samples[i] * std::cos(phase);
+    }
+    return std::hypot(sine, cosine);
+}
+
+} // namespace
+
+/// Plays in a process of its own and listens through SDL's disk driver.
+class AudioPlayerTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        writeSound(m_flat, flatSeconds, [](double) { return flatPeak; });
+        writeSound(m_tone, toneSeconds, [](double time) {
+            return tonePeak * std::sin(2 * std::numbers::pi * 1000 * time);
+        });
+    }
+
+    void soundsAtTheVolume_data()
+    {
+        QTest::addColumn<QString>("volume");
+        QTest::addColumn<int>("peak");
+        QTest::newRow("silent") << u"@0"_s << 0;
+        QTest::newRow("half") << u"@0.5"_s << flatPeak / 2;
+        QTest::newRow("full") << u"@1"_s << flatPeak;
+    }
+
+    void soundsAtTheVolume()
+    {
+        QFETCH(const QString, volume);
+        const Performance heard = listen({m_flat + volume, u"300"_s});
+        QCOMPARE(heard.failures, QByteArrayList());
+        QVERIFY(heard.left.size() > rate / 10);
+        QTEST(*std::ranges::max_element(heard.left), "peak");
+    }
+
+    // As when a pair is found while an earlier sound is heard: the flip is
+    // followed by the pair's own sound in the same turn.
+    void aSoundCutsOffTheOneBefore_data()
+    {
+        QTest::addColumn<QStringList>("cuts");
+        QTest::newRow("one") << QStringList{m_tone + u"@1"_s};
+        QTest::newRow("two at once") << QStringList{m_tone + u"@1"_s, m_tone + u"@1"_s};
+    }
+
+    void aSoundCutsOffTheOneBefore()
+    {
+        QFETCH(const QStringList, cuts);
+        const Performance heard =
+            listen(QStringList{m_flat + u"@1"_s, u"400"_s} + cuts + QStringList{u"600"_s});
+        QCOMPARE(heard.failures, QByteArrayList());
+        // What is louder than the tone can only be the flat sound.
+        const std::size_t begin = onset(heard.left, 0, 0);
+        const std::size_t cut = lastAbove(heard.left, tonePeak + 100);
+        QVERIFY(cut > begin + rate * 3 / 10 && cut < begin + rate);
+        const double toneLeft = double(lastAbove(heard.left, 0) - cut) / rate;
+        QVERIFY2(toneLeft > toneSeconds - 0.05 && toneLeft < toneSeconds + 0.05,
+                 qPrintable(QString::number(toneLeft)));
+        // The tone's own steps reach 1140; a cut without a fade makes one of 16000.
+        int step = 0;
+        for (std::size_t i = 1; i < heard.left.size(); ++i)
+            step = std::max(step, std::abs(heard.left[i] - heard.left[i - 1]));
+        QVERIFY2(step < 1500, qPrintable(QString::number(step)));
+    }
+
+    void aFileThatDoesNotLoadCutsNothingOff()
+    {
+        for (const auto& [name, contents] :
+             {std::pair("empty.mp3", ""), std::pair("garbage.mp3", "no sound"),
+              std::pair("cut.wav", "RIFF\x24\0\0\0WAVE")}) {
+            QFile file(path(name));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) >= 0);
+        }
+        const Performance heard =
+            listen({m_flat + u"@1"_s, u"200"_s, path("empty.mp3") + u"@1"_s,
+                    path("garbage.mp3") + u"@1"_s, path("cut.wav") + u"@1"_s,
+                    path("missing.mp3") + u"@1"_s, m_home.path() + u"@1"_s, u"1400"_s});
+        QCOMPARE(heard.failures.size(), 5);
+        QVERIFY(!heard.failures.contains(QByteArray()));
+        const double length =
+            double(lastAbove(heard.left, flatPeak - 1) - onset(heard.left, 0, flatPeak - 1)) / rate;
+        QVERIFY2(std::abs(length - flatSeconds + 0.02) < 0.002,
+                 qPrintable(QString::number(length)));
+        QCOMPARE(std::count(heard.left.begin(), heard.left.end(), flatPeak),
+                 qRound((flatSeconds - 0.02) * rate) + 1);
+    }
+
+    void theSoundsOfTheGameAreHeard()
+    {
+        QStringList script;
+        for (const char* const name : {"card_done", "card_reset", "card_flip", "done"}) {
+            const auto file = ApplicationBundle::ofRunningProgram().resource(
+                QString::fromLatin1(name), u"mp3"_s, u"Sounds"_s);
+            QVERIFY(file);
+            script << *file + u"@1"_s << u"800"_s;
+        }
+        const Performance heard = listen(script);
+        QCOMPARE(heard.failures, QByteArrayList());
+        // A found pair begins at D5, a missed one at B4.
+        const std::size_t done = onset(heard.left, 0, 300);
+        const std::size_t reset = onset(heard.left, done + rate * 3 / 4, 300);
+        QVERIFY(strength(heard.left, done, 587.3) > 2 * strength(heard.left, done, 493.9));
+        QVERIFY(strength(heard.left, reset, 493.9) > 2 * strength(heard.left, reset, 587.3));
+        QVERIFY(onset(heard.left, reset + rate * 3 / 2, 300) < heard.left.size());
+    }
+
+    void neverWaitsForASoundServer()
+    {
+        // The system accepts for a server that never looks at its connections.
+        QLocalServer server;
+        QVERIFY(server.listen(path("server")));
+        m_environment.insert(u"PULSE_SERVER"_s, u"unix:"_s + path("server"));
+        const Performance heard =
+            listen({u"prepare"_s, path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, u"300"_s},
+                   u"pulseaudio"_s);
+        if (!server.waitForNewConnection(0))
+            QSKIP("SDL was built without PulseAudio");
+        QCOMPARE(heard.failures, QByteArrayList()); // so the thread is still waiting
+        QVERIFY2(heard.slowestCall < 20, qPrintable(QString::number(heard.slowestCall)));
+        QVERIFY2(heard.farewell < 2000, qPrintable(QString::number(heard.farewell)));
+    }
+
+    void withoutADeviceFilesAreStillChecked()
+    {
+        const Performance heard = listen(
+            {path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, m_home.path() + u"@1"_s, u"300"_s},
+            u"nosuchdriver"_s);
+        QCOMPARE(heard.failures.size(), 2);
+        QVERIFY2(heard.slowestCall < 20, qPrintable(QString::number(heard.slowestCall)));
+    }
+
+private:
+    [[nodiscard]] QString path(const char* name) const
+    {
+        return m_home.filePath(QString::fromLatin1(name));
+    }
+
+    /// Lets a child perform `script`, see perform(), and listens.
+    Performance listen(const QStringList& script, const QString& driver = u"disk"_s)
+    {
+        const QString recording = path("recording.raw");
+        QFile::remove(recording);
+        m_environment.insert(u"SDL_AUDIODRIVER"_s, driver);
+        m_environment.insert(u"SDL_DISKAUDIOFILE"_s, recording);
+        QProcess child;
+        child.setProcessEnvironment(m_environment);
+        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        child.start(QCoreApplication::applicationFilePath(), QStringList{u"--perform"_s} + script);
+        child.waitForFinished(20'000);
+        QByteArrayList lines = child.readAllStandardOutput().split('\n');
+        if (child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0 || lines.size() < 3)
+            QTest::qFail("the player's process did not end well", __FILE__, __LINE__);
+        lines.removeLast();
+        Performance heard;
+        heard.farewell = lines.isEmpty() ? 0 : lines.takeLast().toDouble();
+        heard.slowestCall = lines.isEmpty() ? 0 : lines.takeLast().toDouble();
+        heard.failures = lines;
+        QFile file(recording);
+        const QByteArray raw = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        for (qsizetype i = 0; i + 4 <= raw.size(); i += 4)
+            heard.left.push_back(qFromLittleEndian<qint16>(raw.constData() + i));
+        return heard;
+    }
+
+    QTemporaryDir m_home{};
+    const QString m_flat = path("flat.wav");
+    const QString m_tone = path("tone.wav");
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+};
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--perform"_s)
+        return perform(arguments.mid(2));
+    AudioPlayerTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "audio_player_test.moc"

@@ -1,0 +1,236 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "decks/bundle_deck.h"
+#include "decks/deck_name.h"
+#include "platform/application_bundle.h"
+#include "platform/user_defaults.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTest>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("the test cannot write its file");
+}
+
+/// Saves a picture `width` pixels wide, which tells it apart from others.
+void writePicture(const QString& path, int width = 3)
+{
+    QImage image(width, 2, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const bool isJpeg = path.contains(u".j"_s, Qt::CaseInsensitive);
+    if (!image.save(path, isJpeg ? "JPG" : "PNG"))
+        qFatal("the test cannot write its picture");
+}
+
+QString namesOf(const CardPictures& pictures)
+{
+    QStringList names;
+    for (const CardPicture& picture : pictures)
+        names << picture.name;
+    return names.join(u' ');
+}
+
+/// What `action` writes to standard output, flushed by itself.
+QByteArray outputOf(const std::function<void()>& action)
+{
+    QTemporaryFile file;
+    if (!file.open())
+        qFatal("the test cannot write its file");
+    std::fflush(stdout);
+    const int terminal = ::dup(STDOUT_FILENO);
+    ::dup2(file.handle(), STDOUT_FILENO);
+    action();
+    ::dup2(terminal, STDOUT_FILENO);
+    ::close(terminal);
+    file.seek(0);
+    return file.readAll();
+}
+
+} // namespace
+
+/// Reads decks from real folders, in a bundle at HOME/share/paircade.
+class BundleDeckTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        m_bundle = m_home->filePath(u"share/paircade"_s);
+        m_deck = m_bundle + u"/Cards/Kids/"_s;
+        QDir().mkpath(m_deck);
+    }
+
+    void aDeckThatCannotBeListedIsLoggedInOneLine_data()
+    {
+        QTest::addColumn<QString>("deck");
+        QTest::addColumn<QString>("line"); // %1: the folder of all decks
+
+        const QString unreadable = u"Ordnerinhalt konnte nicht gelesen werden: %1/"_s;
+        const QString longName(10'000, u'x');
+        QTest::newRow("empty name") << QString() << u"CardDeck ist leer"_s;
+        QTest::newRow("no folder") << u"Unknown"_s << unreadable + u"Unknown"_s;
+        QTest::newRow("a file") << u"file.png"_s << unreadable + u"file.png"_s;
+        QTest::newRow("outside, where nothing is")
+            << u"../../../nowhere"_s << unreadable + u"../../../nowhere"_s;
+        QTest::newRow("10,000 characters") << longName << unreadable + longName;
+        QTest::newRow("a line break") << u"a\nb\rc"_s << unreadable + u"a\\nb\\rc"_s;
+        QTest::newRow("a percent sign") << u"%s%n"_s << unreadable + u"%s%n"_s;
+        QTest::newRow("a NUL is part of the name")
+            << u"Kids"_s + QChar::Null + u"x"_s << unreadable + u"Kids"_s + QChar::Null + u"x"_s;
+    }
+
+    void aDeckThatCannotBeListedIsLoggedInOneLine()
+    {
+        QFETCH(const QString, deck);
+        QFETCH(QString, line);
+        line.replace(u"%1"_s, m_bundle + u"/Cards"_s);
+        writePicture(m_bundle + u"/Cards/file.png"_s);
+        writePicture(m_deck + u"a.png"_s);
+        CardPictures pictures;
+        const QByteArray output =
+            outputOf([&] { pictures = loadBundleDeck(ApplicationBundle(m_bundle), deck); });
+        QCOMPARE(output, line.toUtf8() + '\n');
+        QVERIFY(pictures.empty());
+    }
+
+    void withoutResourcesTheDeckIsLogged()
+    {
+        const ApplicationBundle nowhere(m_home->filePath(u"nowhere"_s));
+        QCOMPARE(outputOf([&] { (void)loadBundleDeck(nowhere, u"Kids"_s); }),
+                 QByteArray("Bundle-Ordner Cards/Kids nicht gefunden\n"));
+    }
+
+    void badFilesAreLeftOutWithoutAWord()
+    {
+        writePicture(m_deck + u"good.png"_s);
+        writeFile(m_deck + u"empty.png"_s, "");
+        writeFile(m_deck + u"garbage.jpg"_s, QByteArray(5000, '\xff'));
+        writeFile(m_deck + u"cut.png"_s, "\x89PNG\r\n\x1a\n");
+        writePicture(m_deck + u".hidden.png"_s);
+        writePicture(m_deck + u"e.png.txt"_s);
+        writePicture(m_deck + u"png"_s);
+        writePicture(m_deck + u"picture.gif"_s);
+        QDir(m_deck).mkdir(u"x.png"_s);
+        writePicture(m_deck + u"x.png/inside.png"_s);
+        QFile::link(u"nowhere.png"_s, m_deck + u"dangling.png"_s);
+        QString names;
+        QCOMPARE(outputOf([&] { names = load(); }), QByteArray());
+        QCOMPARE(names, u"good"_s);
+
+        QDir(m_deck).remove(u"good.png"_s);
+        QCOMPARE(outputOf([&] { names = load(); }), QByteArray());
+        QCOMPARE(names, QString());
+    }
+
+    void picturesComeInOrderOfTheirNames()
+    {
+        for (const QString& file : {u"b.png"_s, u"A.jpg"_s, u"c.JPEG"_s, u"D.PNG"_s, u"c.d.Jpg"_s,
+                                    u"9.png"_s, u"10.png"_s})
+            writePicture(m_deck + file);
+        QCOMPARE(load(), u"10 9 A b c.d c D"_s);
+    }
+
+    void namesThatCompareEqualKeepTheOrderOfTheListing()
+    {
+        // More than a sort that is not stable happens to leave in order.
+        for (int upper = 0; upper < 64; ++upper) {
+            QString name = u"abcdef.png"_s;
+            for (int i = 0; i < 6; ++i) {
+                if (upper >> i & 1)
+                    name[i] = name[i].toUpper();
+            }
+            writePicture(m_deck + name);
+        }
+        QStringList listed;
+        for (const auto& entry : std::filesystem::directory_iterator(m_deck.toStdString()))
+            listed << QString::fromStdString(entry.path().stem().string());
+        QCOMPARE(load(), listed.join(u' '));
+    }
+
+    void aLinkCountsByItsOwnName()
+    {
+        writePicture(m_home->filePath(u"far.dat"_s), 7);
+        writePicture(m_deck + u"b.png"_s, 5);
+        QFile::link(m_home->filePath(u"far.dat"_s), m_deck + u"a.png"_s);
+        QFile::link(m_deck + u"b.png"_s, m_deck + u"c.txt"_s);
+        const auto pictures = loadBundleDeck(ApplicationBundle(m_bundle), u"Kids"_s);
+        QCOMPARE(namesOf(pictures), u"a b"_s);
+        QCOMPARE(pictures[0].image.width(), 7);
+        QCOMPARE(pictures[1].image.width(), 5);
+    }
+
+    void aDeckNameIsAPath()
+    {
+        for (const QString& folder : {m_deck + u"more"_s, m_home->filePath(u"share/etc"_s)}) {
+            QDir().mkpath(folder);
+            writePicture(folder + u"/deep.png"_s);
+        }
+        for (const QString& deck : {u"Kids/more"_s, u"../../etc"_s, u"Kids/../Kids/more/"_s})
+            QCOMPARE(namesOf(loadBundleDeck(ApplicationBundle(m_bundle), deck)), u"deep"_s);
+    }
+
+    void deckNames()
+    {
+        const QString file = m_home->filePath(u"Paircade.conf"_s);
+        UserDefaults defaults(file);
+        QCOMPARE(storedDeckName(defaults), u"Cyberpunk"_s);
+        const auto trimmed = [&defaults](const QString& setting) {
+            defaults.setString(QLatin1String("CardDeck"), setting);
+            return storedDeckName(defaults);
+        };
+        QCOMPARE(trimmed(u""_s), QString());
+        QCOMPARE(trimmed(u" Kids\n"_s), u"Kids"_s);
+        QCOMPARE(trimmed(u"iPhoto: "_s), u"iPhoto:"_s);
+
+        for (const QString& deck : {u""_s, u"Kids"_s, u"iPhoto"_s, u"iPhoto:"_s, u"iPhoto: \t"_s,
+                                    u"iPhoto:Rome"_s, u"iphoto: Rome"_s})
+            QVERIFY2(!photoAlbumTitle(deck), qPrintable(deck));
+        QCOMPARE(photoAlbumTitle(u"iPhoto: Holidays"_s), std::optional(u"Holidays"_s));
+        QCOMPARE(photoAlbumTitle(u"iPhoto:   My  Trip"_s), std::optional(u"My  Trip"_s));
+    }
+
+    void theDecksOfTheGameHold24PicturesEach()
+    {
+        QStringList decks = baseCardDecks();
+        QCOMPARE(decks.takeLast(), u"iPhoto"_s);
+        QCOMPARE(decks, (QStringList{u"Cyberpunk"_s, u"Kids"_s, u"70s"_s, u"80s"_s}));
+        for (const QString& deck : decks) {
+            const auto pictures = loadBundleDeck(ApplicationBundle::ofRunningProgram(), deck);
+            QCOMPARE(pictures.size(), std::size_t{24});
+            for (auto picture = pictures.begin(); picture != pictures.end(); ++picture) {
+                QCOMPARE(picture->image.size(), QSize(512, 512));
+                QVERIFY(!picture->image.hasAlphaChannel());
+                for (auto other = pictures.begin(); other != picture; ++other)
+                    QVERIFY2(other->image != picture->image, qPrintable(picture->name));
+            }
+        }
+    }
+
+private:
+    [[nodiscard]] QString load() const
+    {
+        return namesOf(loadBundleDeck(ApplicationBundle(m_bundle), u"Kids"_s));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_home{};
+    QString m_bundle{};
+    QString m_deck{};
+};
+
+QTEST_GUILESS_MAIN(BundleDeckTest)
+#include "bundle_deck_test.moc"

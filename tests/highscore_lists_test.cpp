@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "highscores/highscore_lists.h"
+#include "highscores/recording.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Score = std::optional<std::int64_t>;
+using Ranking = HighscoreEntries (*)(HighscoreEntries, std::size_t);
+
+constexpr std::size_t limit = 10;
+
+/// A record that the test tells apart by its name.
+HighscoreEntry solo(const char* name, std::int64_t time, std::int64_t failures)
+{
+    HighscoreEntry entry;
+    entry.playerName = QString::fromLatin1(name);
+    entry.elapsedSeconds = time;
+    entry.failedAttempts = failures;
+    return entry;
+}
+
+HighscoreEntry versus(const char* name, Score first, Score second, std::int64_t time)
+{
+    HighscoreEntry entry = solo(name, time, 0);
+    entry.firstPlayerScore = first;
+    entry.secondPlayerScore = second;
+    return entry;
+}
+
+HighscoreEntry played(const char* name, const char* mode, std::int64_t cards, std::int64_t rounds,
+                      std::int64_t time = 0, std::int64_t failures = 0)
+{
+    HighscoreEntry entry = solo(name, time, failures);
+    entry.gameMode = QString::fromLatin1(mode);
+    entry.amountCards = cards;
+    entry.amountRounds = rounds;
+    return entry;
+}
+
+QByteArray namesOf(const HighscoreEntries& entries)
+{
+    QByteArray names;
+    for (const HighscoreEntry& entry : entries)
+        names += entry.playerName.toLatin1();
+    return names;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Ranking)
+
+class HighscoreListsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ranks_data()
+    {
+        QTest::addColumn<Ranking>("ranking");
+        QTest::addColumn<HighscoreEntries>("entries");
+        QTest::addColumn<QByteArray>("names");
+        const auto row = [](const char* name, Ranking ranking, HighscoreEntries entries,
+                            const char* names) {
+            QTest::newRow(name) << ranking << std::move(entries) << QByteArray(names);
+        };
+        row("no records", rankByTime, {}, "");
+        row("time: fastest first, any 64-bit value", rankByTime,
+            {solo("a", INT64_MAX, 0), solo("b", 5, 9), solo("c", INT64_MIN, 0)}, "cba");
+        row("time: then fewer failures, then the older record", rankByTime,
+            {solo("a", 5, 3), solo("b", 5, 2), solo("c", 5, 3), solo("d", 5, 2)}, "bdac");
+        row("failures: fewest first, any 64-bit value", rankByFailures,
+            {solo("a", 0, INT64_MAX), solo("b", 9, 5), solo("c", 0, INT64_MIN)}, "cba");
+        row("failures: then the shorter time, then the older record", rankByFailures,
+            {solo("a", 3, 5), solo("b", 2, 5), solo("c", 3, 5), solo("d", 2, 5)}, "bdac");
+        row("margin: largest lead first, whoever leads, a draw last", rankByMargin,
+            {versus("a", 5, 3, 1), versus("b", 4, 4, 1), versus("c", 1, 6, 1)}, "cab");
+        row("margin: then the shorter time, then the older record", rankByMargin,
+            {versus("a", 5, 3, 9), versus("b", 1, 3, 8), versus("c", 2, 0, 9)}, "bac");
+        row("margin: an absent score counts as 0", rankByMargin,
+            {versus("a", {}, {}, 1), versus("b", {}, 3, 1), versus("c", -2, {}, 1)}, "bca");
+        row("margin: leads beyond the signed range", rankByMargin,
+            {versus("a", 0, INT64_MAX, 1), versus("b", INT64_MIN, INT64_MAX, 1),
+             versus("c", INT64_MIN, {}, 1), versus("d", INT64_MAX, INT64_MIN + 1, 1)},
+            "bdca");
+    }
+
+    void ranks()
+    {
+        QFETCH(const Ranking, ranking);
+        QFETCH(const HighscoreEntries, entries);
+        QTEST(namesOf(ranking(entries, limit)), "names");
+    }
+
+    void amongManyTheOldestTenOfTheBestAreKept()
+    {
+        // More than a sort that is not stable happens to leave in order.
+        HighscoreEntries entries;
+        for (int i = 0; i < 40; ++i) {
+            entries.push_back(versus(QByteArray(1, char('A' + i)), i % 2, {}, i % 2));
+            entries.back().failedAttempts = i % 2;
+        }
+        QCOMPARE(namesOf(rankByTime(entries, limit)), QByteArray("ACEGIKMOQS"));
+        QCOMPARE(namesOf(rankByFailures(entries, limit)), QByteArray("ACEGIKMOQS"));
+        QCOMPARE(namesOf(rankByMargin(entries, limit)), QByteArray("BDFHJLNPRT"));
+        QCOMPARE(namesOf(inReportOrder(entries)), QByteArray("ACEGIKMOQSUWY[]_aceg"
+                                                             "BDFHJLNPRTVXZ\\^`bdfh"));
+    }
+
+    void marginIsExact()
+    {
+        QCOMPARE(scoreMargin(versus("", INT64_MIN, INT64_MAX, 0)), UINT64_MAX);
+        QCOMPARE(scoreMargin(versus("", INT64_MAX, INT64_MIN, 0)), UINT64_MAX);
+        QCOMPARE(scoreMargin(versus("", INT64_MIN, {}, 0)), std::uint64_t{1} << 63);
+        QCOMPARE(scoreMargin(versus("", INT64_MIN, INT64_MIN, 0)), std::uint64_t{0});
+        QCOMPARE(scoreMargin(versus("", -5, -2, 0)), std::uint64_t{3});
+    }
+
+    void filtersExactly()
+    {
+        const HighscoreEntries entries{
+            played("a", "solo", 2, 3), played("b", "versus", 2, 3),
+            played("c", "Solo", 2, 3), played("d", "solo", 4'294'967'298, 3),
+            played("e", "solo", 3, 3), played("f", "solo", 2, 4),
+            played("g", "", 2, 3),     played("h", "solo", 2, 4'294'967'299),
+            played("i", "solo", 2, 3), played("j", "versus", 2, 3),
+        };
+        QCOMPARE(namesOf(entriesOf(entries, 2, 3, soloMode)), QByteArray("ai"));
+        QCOMPARE(namesOf(entriesOf(entries, 2, 3, versusMode)), QByteArray("bj"));
+    }
+
+    void reportOrderGoesByFourKeysThenFileOrder()
+    {
+        const HighscoreEntries entries{
+            played("a", "solo", 2, 1, 1, 1),   played("b", "versus", 1, 2, 1, 1),
+            played("c", "solo", 1, 1, 9, 1),   played("d", "solo", 1, 1, 8, 3),
+            played("e", "versus", 1, 1, 8, 2), played("f", "solo", 1, 1, 8, 3),
+            played("g", "solo", -7, 9, 9, 9),  played("h", "solo", 10, 1, 1, 1),
+        };
+        QCOMPARE(namesOf(inReportOrder(entries)), QByteArray("gedfcbah"));
+    }
+
+    void recordsHoldWhatTheirModeHas()
+    {
+        const GameFacts facts{6000, 12, 6, 99};
+        const HighscoreEntry alone = soloEntry(u"Anna"_s, facts);
+        QCOMPARE(alone.gameMode, u"solo"_s);
+        QVERIFY(!alone.secondPlayerName && !alone.winnerName);
+        QVERIFY(!alone.firstPlayerScore && !alone.secondPlayerScore);
+        QVERIFY(!alone.id.isNull() && alone.id != soloEntry(u"Anna"_s, facts).id);
+
+        const auto result = [&facts](std::int64_t first, std::int64_t second) {
+            return versusEntry({u"Anna"_s, first}, {u"Ben"_s, second}, facts);
+        };
+        QCOMPARE(result(5, 3).winnerName, std::optional(u"Anna"_s));
+        QCOMPARE(result(2, 6).winnerName, std::optional(u"Ben"_s));
+        const HighscoreEntry draw = result(4, 4);
+        QVERIFY(!draw.winnerName);
+        QCOMPARE(draw.gameMode, u"versus"_s);
+        QCOMPARE(draw.secondPlayerName, std::optional(u"Ben"_s));
+        QCOMPARE(draw.firstPlayerScore, Score(4));
+        QCOMPARE(result(5, 3).secondPlayerScore, Score(3));
+
+        for (const HighscoreEntry& entry : {alone, draw}) {
+            QCOMPARE(entry.playerName, u"Anna"_s);
+            QCOMPARE(entry.elapsedSeconds, 6000);
+            QCOMPARE(entry.failedAttempts, 12);
+            QCOMPARE(entry.amountCards, 6);
+            QCOMPARE(entry.amountRounds, 99);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(HighscoreListsTest)
+#include "highscore_lists_test.moc"

@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Paircade authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# includes_point_downward.sh SRC: fails if a file of SRC includes one of a folder
+# above its own, or of a folder that has no place in the order.
+set -euo pipefail
+cd "$1"
+
+# From top to bottom.
+layers=(app ui platform/widgets game highscores decks game/rules settings platform)
+
+# rank FILE: the place of its folder in the order; nothing for an unknown folder.
+rank() {
+    local place
+    for place in "${!layers[@]}"; do
+        [[ ${1%/*} != "${layers[$place]}" ]] || echo "$place"
+    done
+}
+
+status=0
+while IFS=: read -r file include; do
+    from=$(rank "$file") to=$(rank "$include")
+    if [[ -z $from || -z $to ]] || ((to < from)); then
+        echo "$file includes $include, which does not lie below it"
+        status=1
+    fi
+done < <(grep -roE --include='*.h' --include='*.cpp' '^#include "[^"]+"' . |
+    sed -e 's|^\./||' -e 's|#include "||' -e 's|"$||')
+exit "$status"

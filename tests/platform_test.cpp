@@ -1,0 +1,287 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/application_bundle.h"
+#include "platform/clock_text.h"
+#include "platform/collation.h"
+#include "platform/format_text.h"
+#include "platform/notification_center.h"
+#include "platform/trim.h"
+#include "platform/user_defaults.h"
+#include "settings/default_settings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <map>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String key{"Key"};
+constexpr QLatin1String deckKey{"Deck"};
+
+void writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("the test cannot write its file");
+}
+
+/// What a program of its own would find in the settings file `path`: QSettings
+/// shares what it keeps of one path among all its objects.
+std::map<QString, QString> stored(const QString& path)
+{
+    const QTemporaryDir elsewhere;
+    const QString copy = elsewhere.filePath(u"copy.conf"_s);
+    QFile::copy(path, copy);
+    const QSettings settings(copy, QSettings::IniFormat);
+    std::map<QString, QString> values;
+    for (const QString& name : settings.allKeys())
+        values[name] = settings.value(name).toString();
+    return values;
+}
+
+} // namespace
+
+class PlatformTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        // Groups digits, and sorts Ä beside A: the order of code points would not.
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    }
+
+    void init()
+    {
+        m_home = std::make_unique<QTemporaryDir>();
+        m_file = m_home->filePath(u"Paircade.conf"_s);
+    }
+
+    void fillsFormatsInOnePass_data()
+    {
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<QString>("filled");
+        const auto row = [](const char* name, const char* format, const char* filled) {
+            QTest::newRow(name) << QString::fromUtf8(format) << QString::fromUtf8(filled);
+        };
+        row("a place without an argument stays", "%4 and %9", "%4 and %9");
+        row("%0 is no place", "%0 %1", "%0 %2");
+        row("a trailing % stays", "100 %", "100 %");
+        row("%% is no escape", "%% %%1", "%% %%2");
+        row("a player called %2 stays that", "%1 has %2", "%2 has -1234567");
+        row("out of order and twice", "%3%2%1%3", "c%d-1234567%2c%d");
+        row("an argument left out shifts nothing", "only %3", "only c%d");
+        row("one digit makes a place", "%12", "%22");
+        row("beyond ASCII", "„%2“ – 日本", "„-1234567“ – 日本");
+    }
+
+    void fillsFormatsInOnePass()
+    {
+        QFETCH(const QString, format);
+        QTEST(fillFormat(format, {u"%2"_s, -1234567, u"c%d"_s}), "filled");
+    }
+
+    void trimsWhiteSpaceAtTheEndsOnly()
+    {
+        const QString inner = u"a \t\u00a0\n b"_s;
+        for (const QChar c :
+             u"\t\n\v\f\r \u0085\u00a0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006"
+             u"\u2007\u2008\u2009\u200a\u2028\u2029\u202f\u205f\u3000"_s) {
+            QCOMPARE(trimmedText(QString(3, c) + inner + c), inner);
+            QCOMPARE(trimmedText(QString(3, c)), QString());
+        }
+        for (const QChar c : u"\0\u001f\u180e\u200b\u2060\ufeff"_s)
+            QCOMPARE(trimmedText(c + inner + c), c + inner + c);
+    }
+
+    void clockTextHasTwoDigitsAtLeast()
+    {
+        QCOMPARE(clockText(INT64_MIN), u"-153722867280912930:-8"_s);
+        QCOMPARE(clockText(-5), u"00:-5"_s);
+        QCOMPARE(clockText(59), u"00:59"_s);
+        QCOMPARE(clockText(60), u"01:00"_s);
+        QCOMPARE(clockText(3599), u"59:59"_s);
+        QCOMPARE(clockText(6000), u"100:00"_s);
+        QCOMPARE(clockText(INT64_MAX), u"153722867280912930:07"_s);
+    }
+
+    void sortsForAReader()
+    {
+        QVERIFY(!sortsBefore(u"Card.png", u"card.png") && !sortsBefore(u"card.png", u"Card.png"));
+        QVERIFY(sortsBefore(u"A.jpg", u"b.png") && sortsBefore(u"b.png", u"C.jpg"));
+        QVERIFY(sortsBefore(u"10.png", u"9.png") && !sortsBefore(u"9.png", u"10.png"));
+        QVERIFY(sortsBefore(u"Äpfel", u"Birne") && sortsBefore(u"apfel", u"Äpfel"));
+    }
+
+    void readsWhateverTheFileHolds_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<qint64>("integer");
+        QTest::addColumn<double>("floating");
+        QTest::addColumn<QString>("string");
+        const auto row = [](const char* value, qint64 integer, double floating,
+                            const char* string = nullptr) {
+            QTest::newRow(value) << QByteArray(value) << integer << floating
+                                 << QString::fromUtf8(string == nullptr ? value : string);
+        };
+        row("", 0, 0);
+        row("@Invalid()", 0, 0, "");
+        row("70s", 0, 0);
+        row("true", 0, 0);
+        row("nan", 0, 0);
+        row("-inf", 0, 0);
+        row("5, 6", 0, 0);
+        row("iPhoto: Rome, 2019", 0, 0);
+        row("\"iPhoto: Rome,2019\"", 0, 0, "iPhoto: Rome,2019");
+        row("\" 7\\n\"", 7, 7, " 7\n");
+        row("-5", -5, -5);
+        row("-1.5", -1, -1.5);
+        row("1e3", 1000, 1000);
+        row("4294967297", 4294967297, 4294967297.0);
+        row("9007199254740993", 9007199254740993, 9007199254740992.0);
+        row("9223372036854775807", INT64_MAX, 0x1p63);
+        row("99999999999999999999", INT64_MAX, 1e20);
+        row("-99999999999999999999", INT64_MIN, -1e20);
+    }
+
+    void readsWhateverTheFileHolds()
+    {
+        QFETCH(const QByteArray, value);
+        QFETCH(const QString, string);
+        writeFile(m_file, "[Other]\nMissing=7\n[General]\nKey=" + value + "\n");
+        const UserDefaults defaults(m_file);
+        QTEST(qint64{defaults.integer(key)}, "integer");
+        QTEST(defaults.floating(key), "floating");
+        QVERIFY(defaults.contains(key));
+        QCOMPARE(defaults.string(key), std::optional(string));
+
+        constexpr QLatin1String missing{"Missing"};
+        QVERIFY(!defaults.contains(missing) && !defaults.string(missing));
+        QCOMPARE(defaults.integer(missing), 0);
+        QCOMPARE(defaults.floating(missing), 0.0);
+    }
+
+    void everyWriteIsInTheFileAtOnceAndAnnounced()
+    {
+        const QString nested = m_home->filePath(u"not/there/yet/Paircade.conf"_s);
+        UserDefaults defaults(nested);
+        QSignalSpy written(&defaults, &UserDefaults::written);
+        const QString deck = u" Käfer, \"\\%\n"_s;
+        defaults.setInteger(key, INT64_MIN);
+        QCOMPARE(stored(nested)[key], QString::number(INT64_MIN));
+        QCOMPARE(defaults.integer(key), INT64_MIN);
+        defaults.setString(deckKey, deck);
+        QCOMPARE(stored(nested)[deckKey], deck);
+        QCOMPARE(defaults.string(deckKey), std::optional(deck));
+        defaults.setInteger(key, 50);
+        defaults.setInteger(key, 50);
+        QCOMPARE(defaults.floating(key), 50.0);
+        defaults.reread();
+        QCOMPARE(written.count(), 4);
+        QCOMPARE(written.at(1).at(0).toString(), QString(deckKey));
+    }
+
+    void rereadingTakesOverWhatOthersWrote()
+    {
+        UserDefaults defaults(m_file);
+        defaults.setInteger(key, 1);
+        writeFile(m_file, "[General]\nKey=1234\nDeck=Kids\n");
+        defaults.reread();
+        QCOMPARE(defaults.integer(key), 1234);
+        defaults.setInteger(key, 5);
+        QCOMPARE(stored(m_file)[u"Deck"_s], u"Kids"_s);
+        QFile::remove(m_file);
+        defaults.reread();
+        QVERIFY(!defaults.contains(key));
+    }
+
+    void withoutAFolderValuesLiveInTheProcess()
+    {
+        writeFile(m_home->filePath(u"file"_s), "not a folder");
+        UserDefaults defaults(m_home->filePath(u"file/Paircade.conf"_s));
+        defaults.setInteger(key, 4);
+        defaults.reread();
+        QCOMPARE(defaults.integer(key), 4);
+    }
+
+    void defaultsFillGapsOnly_data()
+    {
+        QTest::addColumn<QStringList>("lines");
+        QTest::newRow("the first launch") << QStringList();
+        QTest::newRow("chosen values, 0 among them")
+            << QStringList{u"AmountCards=4"_s, u"PlaySounds=0"_s, u"CardDeck=Kids"_s};
+        QTest::newRow("values out of range or of another type")
+            << QStringList{u"AmountCards=9"_s, u"AmountRounds=many"_s, u"CardDeck="_s};
+        QTest::newRow("a game that a crash left running") << QStringList{u"GameIsActive=1"_s};
+    }
+
+    void defaultsFillGapsOnly()
+    {
+        QFETCH(const QStringList, lines);
+        std::map<QString, QString> expected{
+            {u"PlaySounds"_s, u"1"_s},         {u"VolumeSound"_s, u"50"_s},
+            {u"LaunchInFullscreen"_s, u"0"_s}, {u"AmountCards"_s, u"1"_s},
+            {u"RemoveMatch"_s, u"0"_s},        {u"PaircadeAlbum"_s, u"0"_s},
+            {u"AmountRounds"_s, u"1"_s},       {u"CardDeck"_s, u"Cyberpunk"_s},
+        };
+        for (const QString& line : lines)
+            expected[line.section(u'=', 0, 0)] = line.section(u'=', 1);
+        writeFile(m_file, "[General]\n" + lines.join(u'\n').toUtf8() + '\n');
+        UserDefaults defaults(m_file);
+        createDefaultSettings(defaults);
+        QCOMPARE(stored(m_file), expected);
+    }
+
+    void postsAreDeliveredAtOnceInOrderToTheLiving()
+    {
+        NotificationCenter center;
+        QStringList log;
+        QObject here;
+        auto leaving = std::make_unique<QObject>();
+        center.observe(u"b"_s, &here, [&] { log << u"other"_s; });
+        center.observe(u"a"_s, leaving.get(), [&] { log << u"1"_s; });
+        center.observe(u"a"_s, &here, [&] { log << u"2"_s; });
+        center.post(u"a"_s);
+        center.post(u"A"_s);
+        QCOMPARE(log, (QStringList{u"1"_s, u"2"_s}));
+        leaving.reset();
+        center.post(u"a"_s);
+        QCOMPARE(log.mid(2), QStringList{u"2"_s});
+    }
+
+    void bundleFindsFilesAndNothingElse()
+    {
+        QDir home(m_home->path());
+        home.mkpath(u"share/Sounds/folder.mp3"_s);
+        writeFile(home.filePath(u"share/logo.png"_s), "x");
+        writeFile(home.filePath(u"share/Sounds/done.mp3"_s), "x");
+        const QString folder = home.filePath(u"share"_s);
+        const ApplicationBundle bundle(folder);
+        QCOMPARE(bundle.resourceFolder(), std::optional(folder));
+        QCOMPARE(bundle.resource(u"logo"_s, u"png"_s), std::optional(folder + u"/logo.png"_s));
+        QCOMPARE(bundle.resource(u"done"_s, u"mp3"_s, u"Sounds"_s),
+                 std::optional(folder + u"/Sounds/done.mp3"_s));
+        QVERIFY(!bundle.resource(u"folder"_s, u"mp3"_s, u"Sounds"_s));
+        QVERIFY(!bundle.resource(u"done"_s, u"mp3"_s));
+        for (const QString& none :
+             {home.filePath(u"missing"_s), folder + u"/logo.png"_s, QString()}) {
+            QVERIFY(!ApplicationBundle(none).resourceFolder());
+            QVERIFY(!ApplicationBundle(none).resource(u"logo"_s, u"png"_s));
+        }
+        QVERIFY(ApplicationBundle::ofRunningProgram().resource(u"logo"_s, u"png"_s));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_home{};
+    QString m_file{};
+};
+
+QTEST_GUILESS_MAIN(PlatformTest)
+#include "platform_test.moc"

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/rules/card_layout.h"
+#include "game/rules/shuffle.h"
+
+#include <QTest>
+#include <map>
+
+namespace {
+
+using Words = QList<quint64>;
+using Numbers = QList<int>;
+
+constexpr quint64 maxWord = UINT64_MAX;
+constexpr quint64 half = quint64{1} << 63;
+
+/// Hands out `words` one by one, then words that no bound rejects; counts them.
+RandomWords scripted(const Words& words, qsizetype& taken)
+{
+    return [&words, &taken] { return words.value(taken++, half - 1); };
+}
+
+} // namespace
+
+class RulesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void boardAndWindowOfAmountCards_data()
+    {
+        QTest::addColumn<qint64>("amountCards");
+        QTest::addColumn<Numbers>("board"); // columns, rows, pairs
+        QTest::addColumn<Numbers>("window");
+        const auto row = [](const char* name, qint64 amount, Numbers board, Numbers window) {
+            QTest::newRow(name) << amount << board << window;
+        };
+        row("the lowest number of all", INT64_MIN, {4, 3, 6}, {1100, 700});
+        row("wraps to 3 when narrowed too early", -4'294'967'293, {4, 3, 6}, {1100, 700});
+        row("missing setting reads 0", 0, {4, 3, 6}, {1100, 700});
+        row("1", 1, {4, 3, 6}, {1100, 700});
+        row("2", 2, {4, 4, 8}, {1150, 760});
+        row("3", 3, {5, 4, 10}, {1220, 760});
+        row("4", 4, {6, 4, 12}, {1320, 760});
+        row("5", 5, {7, 4, 14}, {1420, 760});
+        row("6", 6, {8, 5, 20}, {1580, 900});
+        row("7: the largest board in the first window", 7, {8, 5, 20}, {1100, 700});
+        row("wraps to 2 when narrowed too early", 4'294'967'298, {8, 5, 20}, {1100, 700});
+        row("the highest number of all", INT64_MAX, {8, 5, 20}, {1100, 700});
+    }
+
+    void boardAndWindowOfAmountCards()
+    {
+        QFETCH(const qint64, amountCards);
+        const CardLayout& board = cardLayout(amountCards);
+        const CardLayout& window = windowLayout(amountCards);
+        QTEST((Numbers{board.columns, board.rows, board.pairs()}), "board");
+        QTEST((Numbers{window.windowWidth, window.windowHeight}), "window");
+    }
+
+    void aGameHasAtLeastOneRound()
+    {
+        QCOMPARE(roundCount(INT64_MIN), 1);
+        QCOMPARE(roundCount(0), 1);
+        QCOMPARE(roundCount(99), 99);
+        QCOMPARE(roundCount(INT64_MAX), INT64_MAX);
+    }
+
+    // The rest that is rejected is 2^64 mod bound: 1 for 3, 4 for 6, 2^63 - 1
+    // for 2^63 + 1.
+    void drawsByMultiplyAndReject_data()
+    {
+        QTest::addColumn<quint64>("bound");
+        QTest::addColumn<Words>("words");
+        QTest::addColumn<quint64>("draw");
+        const auto row = [](const char* name, quint64 bound, Words words, quint64 draw) {
+            QTest::newRow(name) << bound << words << draw;
+        };
+        row("3: word 0 has low word 0 and is redrawn", 3, {0, 1}, 0);
+        row("3: the last word that gives 0", 3, {0x5555'5555'5555'5555}, 0);
+        row("3: the first word that gives 1", 3, {0x5555'5555'5555'5556}, 1);
+        row("3: the highest word gives 2", 3, {maxWord}, 2);
+        row("6: low words 0, 2 and 0 again are redrawn", 6,
+            {0, 0x2AAA'AAAA'AAAA'AAAB, half, 0x2AAA'AAAA'AAAA'AAAC}, 1);
+        row("1 leaves no choice and rejects nothing", 1, {0}, 0);
+        row("2 rejects nothing", 2, {0}, 0);
+        row("2: the upper half gives 1", 2, {half}, 1);
+        row("2^63 + 1: word 2 has low word 2 and is redrawn", half + 1, {0, 2, 3}, 1);
+        row("2^63 + 1: a low word equal to the rest counts", half + 1, {maxWord}, half);
+    }
+
+    void drawsByMultiplyAndReject()
+    {
+        QFETCH(const quint64, bound);
+        QFETCH(const Words, words);
+        qsizetype taken = 0;
+        QTEST(quint64{boundedDraw(bound, scripted(words, taken))}, "draw");
+        QCOMPARE(taken, words.size());
+    }
+
+    void shufflesFromTheFront_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<Words>("words");
+        QTest::addColumn<QString>("after");
+        const auto row = [](const char* name, const char* before, Words words, const char* after) {
+            QTest::newRow(name) << QString::fromLatin1(before) << words
+                                << QString::fromLatin1(after);
+        };
+        row("nothing draws nothing", "", {}, "");
+        row("one element draws nothing", "A", {}, "A");
+        row("two stay", "AB", {0}, "AB");
+        // Of 4: 1, so A and B swap, BACD. Of 3: 1, BCAD. Of 2: 1, BCDA.
+        row("each with its neighbour", "ABCD", {half / 2, 3 * (half / 4), half}, "BCDA");
+        // Of 4: 3, so A and D swap, DBCA. Of 3: word 0 is redrawn, then 2, so B
+        // and A swap, DACB. Of 2: 1, so C and B swap, DABC.
+        row("with a redraw", "ABCD", {3 * (half / 2), 0, 0xAAAA'AAAA'AAAA'AAAB, half}, "DABC");
+    }
+
+    void shufflesFromTheFront()
+    {
+        QFETCH(QString, before);
+        QFETCH(const Words, words);
+        qsizetype taken = 0;
+        shuffle(before, scripted(words, taken));
+        QTEST(before, "after");
+        QCOMPARE(taken, words.size());
+    }
+
+    void everyOrderIsEquallyLikely()
+    {
+        constexpr int shuffles = 48'000;
+        std::map<QString, int> counts;
+        for (int i = 0; i < shuffles; ++i) {
+            QString list = QStringLiteral("ABCD");
+            shuffle(list);
+            ++counts[list];
+        }
+        QCOMPARE(counts.size(), std::size_t{24});
+        constexpr double expected = shuffles / 24.0;
+        double chiSquare = 0;
+        for (const auto& [order, count] : counts)
+            chiSquare += (count - expected) * (count - expected) / expected;
+        // With 23 degrees of freedom a fair shuffle exceeds 80 once in 30
+        // million runs; one that swaps each place with any place gives 2000.
+        QVERIFY2(chiSquare < 80, qPrintable(QString::number(chiSquare)));
+    }
+};
+
+QTEST_GUILESS_MAIN(RulesTest)
+#include "rules_test.moc"

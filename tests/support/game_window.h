@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/app_delegate.h"
+#include "app/main_window.h"
+#include "game/memory_game.h"
+#include "platform/widgets/alert_box.h"
+#include "support/play.h"
+#include "support/test_platform.h"
+#include "ui/content_view.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+/// The real window over the real game, driven by mouse and keyboard; the model
+/// is read, never driven. Alerts are real message boxes.
+class GameWindow {
+public:
+    /// `prepare` may write settings and results before the launch.
+    explicit GameWindow(const std::function<void(TestPlatform&)>& prepare = [](TestPlatform&) {})
+    {
+        platform.useResources(resources());
+        makeDeck(resources(), QStringLiteral("Cyberpunk"), 24);
+        prepare(platform);
+        delegate.applicationDidFinishLaunching();
+        if (!QTest::qWaitForWindowActive(delegate.window()))
+            qFatal("the window does not come up");
+        QTest::qWait(20); // frame and centre
+    }
+
+    [[nodiscard]] QString resources() const { return platform.home.path(); }
+    [[nodiscard]] MemoryGame& game() { return delegate.contentView()->game(); }
+    [[nodiscard]] MainWindow& window() { return *delegate.window(); }
+
+    template <class Widget>
+    [[nodiscard]] Widget& child(const QString& name)
+    {
+        auto* const found = window().findChild<Widget*>(name);
+        if (found == nullptr)
+            qFatal("no widget is called %s", qPrintable(name));
+        return *found;
+    }
+    [[nodiscard]] QString text(const QString& label) { return child<QLabel>(label).text(); }
+    [[nodiscard]] QAbstractButton& card(std::size_t position)
+    {
+        return child<QAbstractButton>(QStringLiteral("card%1").arg(position));
+    }
+    /// The name of what has the window's focus.
+    [[nodiscard]] QString focused()
+    {
+        const QWidget* const widget = window().focusWidget();
+        return widget == nullptr ? QString() : widget->objectName();
+    }
+
+    void click(QWidget& widget)
+    {
+        const QPoint place(std::min(widget.width() / 2, 10), widget.height() / 2);
+        QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {},
+                          widget.mapTo(widget.window(), place));
+        QCoreApplication::processEvents();
+    }
+    void clickCard(std::size_t position) { click(card(position)); }
+
+    /// Keys go to the window, as from a keyboard, and so to what has the focus.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(window().windowHandle(), key, modifiers);
+    }
+    void type(const QString& text)
+    {
+        for (const QChar letter : text)
+            QTest::keyClick(window().windowHandle(), letter.toLatin1());
+    }
+    /// One more press of a key that is held down.
+    void repeat(Qt::Key key, const QString& text)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+        QCoreApplication::sendEvent(window().windowHandle(), &event);
+    }
+
+    void startGame()
+    {
+        type(QStringLiteral("Ann"));
+        press(Qt::Key_Return);
+        QCoreApplication::processEvents();
+    }
+
+    /// Finds the next pair by two clicks.
+    void clickPair()
+    {
+        const std::size_t first = hiddenCard(game());
+        const std::size_t second = otherCard(game(), first, true);
+        clickCard(first);
+        clickCard(second);
+    }
+
+    AlertBox alerts{};
+    TestPlatform platform{&alerts};
+    AppDelegate delegate{};
+};
+
+/// Calls `look` on the message box that comes up next, then clicks its button.
+inline void whenAlerted(const std::function<void(QMessageBox&)>& look, int tries = 100)
+{
+    QTimer::singleShot(20, qApp, [look, tries] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr) {
+            look(*box);
+            QTest::mouseClick(box->buttons().constFirst(), Qt::LeftButton);
+        } else if (tries > 0) {
+            whenAlerted(look, tries - 1);
+        } else {
+            QTest::qFail("no alert came up", __FILE__, __LINE__);
+        }
+    });
+}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/test_platform.h"
+
+#include "platform/localized_text.h"
+#include "platform/user_folders.h"
+#include "settings/default_settings.h"
+#include "settings/settings_keys.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+TestPlatform::TestPlatform(Alerts* alerts)
+    : m_alerts(alerts == nullptr ? alertLog : *alerts)
+{
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(QStringLiteral("config"))));
+    defaults = std::make_unique<UserDefaults>(settingsFile());
+    usePlatformWith(ApplicationBundle::ofRunningProgram().resourceFolder().value());
+    createDefaultSettings(*defaults);
+    defaults->setInteger(SettingsKeys::PlaySounds, 0);
+    if (!loadCatalogue(m_texts, *m_bundle->resourceFolder() + QStringLiteral("/translations"),
+                       {QStringLiteral("en")}))
+        qFatal("the English texts are missing");
+    QCoreApplication::installTranslator(&m_texts);
+}
+
+TestPlatform::~TestPlatform()
+{
+    usePlatform(nullptr);
+}
+
+void TestPlatform::usePlatformWith(const QString& resourceFolder)
+{
+    m_bundle = std::make_unique<ApplicationBundle>(resourceFolder);
+    m_platform = std::make_unique<Platform>(
+        Platform{*defaults, *m_bundle, mainQueue, notifications, audio, photos, m_alerts});
+    usePlatform(m_platform.get());
+}
+
+void TestPlatform::useResources(const QString& resourceFolder)
+{
+    usePlatformWith(resourceFolder);
+}
+
+QString TestPlatform::highscoreFile() const
+{
+    return home.filePath(QStringLiteral("data/Paircade/highscores.json"));
+}
+
+void TestPlatform::writeHighscoreFile(const QByteArray& contents) const
+{
+    QDir().mkpath(home.filePath(QStringLiteral("data/Paircade")));
+    QFile file(highscoreFile());
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("the test cannot write its file");
+}
+
+QByteArray TestPlatform::readHighscoreFile() const
+{
+    QFile file(highscoreFile());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}

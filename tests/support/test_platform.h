@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/alerts.h"
+#include "platform/application_bundle.h"
+#include "platform/audio_player.h"
+#include "platform/main_queue.h"
+#include "platform/notification_center.h"
+#include "platform/photo_library.h"
+#include "platform/platform.h"
+#include "platform/user_defaults.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <memory>
+
+/// Keeps the alerts instead of showing them, for tests without a window.
+class AlertLog : public Alerts {
+public:
+    void warn(const QString& messageText, const QString& informativeText,
+              const QString& buttonTitle) override
+    {
+        shown << messageText + QLatin1Char('|') + informativeText + QLatin1Char('|') + buttonTitle;
+    }
+
+    QStringList shown{}; ///< "message|informative text|button", oldest first.
+};
+
+/// A fresh home with the real services in it, and the English texts.
+///
+/// Settings and results are real files under a temporary folder; decks, sounds
+/// and texts are those of the build. Sounds are off.
+class TestPlatform {
+public:
+    /// `alerts` shows the alerts; without one they go to alertLog.
+    explicit TestPlatform(Alerts* alerts = nullptr);
+    ~TestPlatform();
+
+    /// Replaces the resources by those of `resourceFolder`.
+    void useResources(const QString& resourceFolder);
+
+    /// The file of the results, whether it is there or not.
+    [[nodiscard]] QString highscoreFile() const;
+    void writeHighscoreFile(const QByteArray& contents) const;
+    [[nodiscard]] QByteArray readHighscoreFile() const;
+
+    QTemporaryDir home{};
+    std::unique_ptr<UserDefaults> defaults{};
+    MainQueue mainQueue{};
+    NotificationCenter notifications{};
+    AudioPlayer audio{};
+    PhotoLibrary photos{};
+    AlertLog alertLog{};
+
+private:
+    void usePlatformWith(const QString& resourceFolder);
+
+    Alerts& m_alerts;
+    std::unique_ptr<ApplicationBundle> m_bundle{};
+    std::unique_ptr<Platform> m_platform{};
+    QTranslator m_texts{};
+};

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/application_bundle.h"
+#include "platform/localized_text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+#include <QXmlStreamReader>
+#include <map>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The texts that the game cannot do without, and the places in them.
+const std::map<QString, QString> catalogue = [] {
+    std::map<QString, QString> keys;
+    const auto add = [&keys](const char* places, const char* names) {
+        for (const QString& name : QString::fromLatin1(names).split(u' '))
+            keys[name] = QString::fromLatin1(places);
+    };
+    add("", "ok iphoto_access_denied iphoto_access_denied_info iphoto_album_not_found "
+            "iphoto_album_not_found_info iphoto_no_images_found iphoto_no_images_found_info "
+            "highscores_export_error_title enter_name enter_player_names player_one player_two "
+            "unknown_player card_layout_1 card_layout_2 card_layout_3 card_layout_4 card_layout_5 "
+            "card_layout_6 versus_mode start_game start_versus_game end_game reset_highscores "
+            "open_highscores_html best_times fewest_failed_attempts highscores_html_title "
+            "highscores_html_player highscores_html_time highscores_html_failures "
+            "highscores_html_cards highscores_html_rounds highscores_html_mode highscores_empty "
+            "highscores_mode_solo highscores_mode_versus");
+    add("1", "iphoto_not_enough_images iphoto_not_enough_images_in_album player_turn "
+             "player_found_pair player_choose_second_card play_rounds_label_singular "
+             "play_rounds_label_plural time_label failed_attempts_label highscores_html_generated");
+    add("12", "not_enough_images_for_round round_of_rounds player_starts_round draw_score");
+    add("123", "player_wins_score singleplayer_result");
+    add("23", "highscores_html_subtitle"); // no count of columns equals its first argument
+    return keys;
+}();
+
+/// Controls whose mnemonics can be seen at the same time: the window's in its
+/// three states, and those of each menu.
+const QStringList seenTogether{
+    u"menu_game menu_view menu_help reset_highscores open_highscores_html versus_mode start_game"_s,
+    u"menu_game menu_view menu_help reset_highscores open_highscores_html versus_mode start_versus_game"_s,
+    u"menu_game menu_view menu_help reset_highscores open_highscores_html versus_mode end_game"_s,
+    u"menu_new_game menu_end_game menu_open_highscores_html menu_restore_highscores "
+    u"menu_preferences "
+    u"menu_quit"_s,
+    u"menu_full_screen"_s,
+    u"menu_keyboard menu_about"_s,
+};
+
+/// The numbers of the places in `text`, each once, in order.
+QString placesIn(const QString& text)
+{
+    std::set<QString> places;
+    static const QRegularExpression place(u"%(\\d)"_s);
+    for (const auto& match : place.globalMatch(text))
+        places.insert(match.captured(1));
+    return QStringList(places.begin(), places.end()).join(QString());
+}
+
+std::set<QString> idsIn(const QString& catalogueSource)
+{
+    QFile file(catalogueSource);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("a catalogue cannot be read");
+    std::set<QString> ids;
+    for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
+        if (xml.isStartElement() && xml.name() == u"message")
+            ids.insert(xml.attributes().value(u"id"_s).toString());
+    }
+    return ids;
+}
+
+} // namespace
+
+/// Reads the catalogues of the build, against their sources.
+class TextsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const QDir sources(QStringLiteral(PAIRCADE_SOURCE_DIR "/resources/translations"));
+        for (const QString& source : sources.entryList({u"*.ts"_s})) {
+            const QString language = source.section(u'_', 1).chopped(3);
+            const std::set<QString> ids = idsIn(sources.filePath(source));
+            QTranslator translator;
+            QVERIFY2(translator.load(m_folder + u"/paircade_"_s + language + u".qm"_s),
+                     qPrintable(language));
+            for (const QString& id : ids)
+                m_texts[language][id] = translator.translate("", id.toUtf8().constData());
+        }
+        QVERIFY(m_texts.contains(u"en"_s) && m_texts.contains(u"de"_s));
+    }
+
+    void everyLanguageHasEveryText()
+    {
+        QStringList needed;
+        for (const auto& [id, places] : catalogue)
+            needed << id;
+        const QDir decks(QStringLiteral(PAIRCADE_SOURCE_DIR "/resources/Cards"));
+        for (const QString& deck : decks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            for (const QString& picture : QDir(decks.filePath(deck)).entryList({u"*.svg"_s}))
+                needed << u"card_"_s + picture.chopped(4);
+        }
+        QVERIFY(needed.size() > 100);
+        for (const auto& [id, text] : m_texts[u"en"_s])
+            needed << id;
+        for (const auto& [language, texts] : m_texts) {
+            for (const QString& id : needed)
+                QVERIFY2(texts.contains(id) && !texts.at(id).trimmed().isEmpty(),
+                         qPrintable(language + u": "_s + id));
+            QCOMPARE(texts.size(), m_texts[u"en"_s].size());
+        }
+    }
+
+    void placesAreThoseOfTheArguments()
+    {
+        for (const auto& [language, texts] : m_texts) {
+            for (const auto& [id, text] : texts) {
+                const auto known = catalogue.find(id);
+                const QString expected =
+                    known == catalogue.end() ? placesIn(m_texts[u"en"_s][id]) : known->second;
+                QVERIFY2(placesIn(text) == expected, qPrintable(language + u": "_s + id));
+                QVERIFY2(!text.contains(u'&'), qPrintable(language + u": "_s + id));
+            }
+        }
+    }
+
+    void mnemonicsAreFoundAndDoNotClash()
+    {
+        for (auto& [language, texts] : m_texts) {
+            std::set<QString> checked;
+            for (const QString& group : seenTogether) {
+                std::set<QString> letters;
+                for (const QString& key : group.split(u' ')) {
+                    const QString id = u"mnemonic_"_s + key;
+                    const QString letter = texts[id];
+                    const QByteArray label = (language + u": "_s + id).toUtf8();
+                    QVERIFY2(letter.size() == 1 && letter[0].isLetterOrNumber(), label);
+                    QVERIFY2(texts[key].contains(letter), label);
+                    QVERIFY2(letters.insert(letter.toUpper()).second, label);
+                    checked.insert(id);
+                }
+            }
+            for (const auto& [id, text] : texts)
+                QVERIFY2(!id.startsWith(u"mnemonic_"_s) || checked.contains(id), qPrintable(id));
+        }
+    }
+
+    void loadsTheFirstLanguageThatThereIs_data()
+    {
+        QTest::addColumn<QStringList>("languages");
+        QTest::addColumn<QString>("loaded");
+        QTest::newRow("no language") << QStringList() << u"en"_s;
+        QTest::newRow("unknown") << QStringList{u"tlh"_s, u"C"_s, QString()} << u"en"_s;
+        QTest::newRow("a region") << QStringList{u"de-AT"_s} << u"de"_s;
+        QTest::newRow("a script and a region") << QStringList{u"de-Latn-CH"_s} << u"de"_s;
+        QTest::newRow("the second choice") << QStringList{u"fr-FR"_s, u"fr"_s, u"de"_s} << u"de"_s;
+        QTest::newRow("their order") << QStringList{u"en-GB"_s, u"de"_s} << u"en"_s;
+    }
+
+    void loadsTheFirstLanguageThatThereIs()
+    {
+        QFETCH(const QStringList, languages);
+        QFETCH(const QString, loaded);
+        QTranslator translator;
+        QVERIFY(loadCatalogue(translator, m_folder, languages));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QCOMPARE(localizedText("end_game"), m_texts[loaded][u"end_game"_s]);
+        QCOMPARE(localizedText(u"end_game"_s), m_texts[loaded][u"end_game"_s]);
+        QCOMPARE(localizedText("player_turn", {u"%1"_s}), m_texts[loaded][u"player_turn"_s]);
+        QCOMPARE(localizedText("no_such_key"), u"no_such_key"_s);
+        QCOMPARE(localizedText("%1. %2 – %3", {1, u"Zoë"_s, 3}), u"1. Zoë – 3"_s);
+    }
+
+    void withoutCataloguesTextsAreTheirKeys()
+    {
+        QTranslator translator;
+        QVERIFY(!loadCatalogue(translator, m_folder + u"/missing"_s, {u"de"_s}));
+        QCoreApplication::installTranslator(&translator);
+        QCOMPARE(localizedText("end_game"), u"end_game"_s);
+    }
+
+private:
+    const QString m_folder =
+        ApplicationBundle::ofRunningProgram().resourceFolder().value() + u"/translations"_s;
+    std::map<QString, std::map<QString, QString>> m_texts{}; ///< by language, by id
+};
+
+QTEST_GUILESS_MAIN(TextsTest)
+#include "texts_test.moc"
