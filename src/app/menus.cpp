@@ -21,12 +21,15 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
 {
     QMenu* const gameMenu = addMenu("menu_game");
     m_newGame = addItem(gameMenu, "menu_new_game", [this] {
-        // The shortcut may come before the item is disabled.
+        // The choice may come before the item is disabled.
         if (!m_game.isGameActive())
             m_game.startNewGame();
     });
     m_newGame->setShortcut(QKeySequence::New);
-    m_endGame = addItem(gameMenu, "menu_end_game", [this] { m_game.endGame(); });
+    m_endGame = addItem(gameMenu, "menu_end_game", [this] {
+        if (m_game.isGameActive())
+            m_game.endGame();
+    });
     gameMenu->addSeparator();
     addItem(gameMenu, "menu_open_highscores_html", [] {})->setEnabled(false);
     m_restoreHighscores =

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "decks/deck_name.h"
 #include "game/memory_card.h"
 #include "game/published.h"
 #include "game/rules/card_layout.h"
@@ -53,6 +54,8 @@ public:
     };
     Q_ENUM(Member)
 
+    /// What the name of an album's deck begins with.
+    inline static const QString& photoAlbumPrefix = photoAlbumDeckPrefix();
     /// The longest that a highscore list gets.
     static constexpr std::size_t maxHighscoreEntries = 10;
     /// How long a missed pair stays face up.
@@ -141,7 +144,7 @@ public:
     [[nodiscard]] bool isCheckingPair() const { return m_isCheckingPair; }
     [[nodiscard]] const QTimer* timer() const { return m_timer.get(); }
     [[nodiscard]] bool timerStarted() const { return m_timerStarted; }
-    /// The player of the sound that was started last; none before the first.
+    /// The player of the sound that was asked for last; none before the first.
     [[nodiscard]] const AudioPlayer* audioPlayer() const { return m_audioPlayer; }
 
     // Course of the game.

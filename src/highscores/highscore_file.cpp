@@ -42,6 +42,9 @@ bool writeHighscores(const QString& path, const HighscoreEntries& entries)
     QSaveFile file(path);
     if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
         return false;
-    file.write(encodeHighscores(entries));
+    const QByteArray json = encodeHighscores(entries);
+    // A disk that fills up takes a part, which alone is no error to commit().
+    if (file.write(json) != json.size())
+        file.cancelWriting();
     return file.commit();
 }

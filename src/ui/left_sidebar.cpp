@@ -73,6 +73,10 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_rows.push_back(
         {.widget = m_versusCheckbox, .width = ScreenMetrics::leftPanelWidth, .below = 8});
     connect(m_versusCheckbox, &QCheckBox::clicked, &m_game, [this](bool isChecked) {
+        if (m_game.isGameActive()) {
+            m_versusCheckbox->setChecked(m_game.isVersusMode());
+            return;
+        }
         m_game.setIsVersusMode(isChecked);
         // The lists of the other mode are empty until somebody asks for them.
         m_game.reloadHighscoresForCurrentSettings();
@@ -80,7 +84,11 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
 
     m_endButton = addButton("end_game", "endButton", 6);
     setTextColour(m_endButton, QPalette::ButtonText, Colours::red);
-    connect(m_endButton, &QPushButton::clicked, &m_game, &MemoryGame::endGame);
+    // A screen reader may press what is about to go.
+    connect(m_endButton, &QPushButton::clicked, &m_game, [this] {
+        if (m_game.isGameActive())
+            m_game.endGame();
+    });
 
     setWidget(m_column);
     applyColours();
