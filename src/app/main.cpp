@@ -41,6 +41,7 @@ void installCatalogues(QTranslator& ours, QTranslator& controls, const Applicati
 
 int main(int argc, char* argv[])
 {
+    const QByteArray activationToken = SingleInstance::ownActivationToken();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Paircade"));
     QApplication::setApplicationVersion(QStringLiteral(PAIRCADE_VERSION));
@@ -65,7 +66,7 @@ int main(int argc, char* argv[])
         QApplication::setWindowIcon(QIcon(*icon));
 
     SingleInstance instance;
-    const SingleInstance::Claim claim = instance.claim(highscoreFolder());
+    const SingleInstance::Claim claim = instance.claim(highscoreFolder(), activationToken);
     if (claim == SingleInstance::Claim::handedOver)
         return 0;
     if (claim == SingleInstance::Claim::noAnswer) {
@@ -77,9 +78,9 @@ int main(int argc, char* argv[])
     const Termination termination;
     AppDelegate delegate;
     QObject::connect(&instance, &SingleInstance::startedAgain, &delegate,
-                     [&delegate](const QByteArray& activationToken) {
-                         if (!activationToken.isEmpty())
-                             qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+                     [&delegate](const QByteArray& token) {
+                         if (!token.isEmpty())
+                             qputenv("XDG_ACTIVATION_TOKEN", token);
                          delegate.activate();
                      });
     delegate.applicationDidFinishLaunching();

@@ -45,6 +45,7 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
         addItem(viewMenu, "menu_full_screen", [this] { m_window.toggleFullScreen(); });
     fullScreen->setShortcut(QKeySequence(Qt::Key_F11));
     fullScreen->setCheckable(true);
+    fullScreen->setAutoRepeat(false);
     connect(&m_window, &MainWindow::fullScreenChanged, fullScreen, &QAction::setChecked);
 
     QMenu* const helpMenu = addMenu("menu_help");

@@ -23,7 +23,8 @@ class AudioPlayer;
 ///
 /// There is one for the life of the program. Views read its published members,
 /// listen to changed(), write the names and the mode, and call the operations.
-/// Settings are read at the moment of use. Main thread only; nothing throws.
+/// Settings are read at the moment of use. Main thread only, but where it says
+/// otherwise; nothing throws.
 ///
 /// The operations are spread over one source file per concern: round_setup,
 /// flip_rules, game_end, game_clock, sound_effects, game_highscores,
@@ -186,8 +187,9 @@ public:
     [[nodiscard]] CardPictures loadImagesFromBundle() const;
     [[nodiscard]] CardPictures loadImagesFromPhotoLibrary();
 
-    /// Shows a warning with one button after the current turn of the event
-    /// loop; texts are looked up when it shows. No second key, no second text.
+    /// Shows a warning with one button after the current turn of the main
+    /// thread's event loop; texts are looked up when it shows. No second key, no
+    /// second text. May be called on any thread.
     void showLocalizedAlert(const char* messageKey, const char* informativeTextKey = nullptr);
 
 Q_SIGNALS:

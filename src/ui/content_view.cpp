@@ -194,7 +194,7 @@ bool ContentView::eventFilter(QObject* watched, QEvent* event)
     m_gameBoard->setFocusRingShown(isKey);
     // A key still held when its view went, or the second half of a double click,
     // must not act on the next view.
-    if (!isRepeat(*event) || true)
+    if (!isRepeat(*event))
         m_ignoresRepeats = false;
     return m_ignoresRepeats;
 }

@@ -90,6 +90,17 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
             m_game.endGame();
     });
 
+    // One clean column, as wide as its widest text.
+    int widest = buttonWidth;
+    for (const Row& row : m_rows) {
+        if (qobject_cast<QPushButton*>(row.widget) != nullptr)
+            widest = std::max(widest, row.widget->sizeHint().width());
+    }
+    for (Row& row : m_rows) {
+        if (qobject_cast<QPushButton*>(row.widget) != nullptr)
+            row.width = std::min(widest, ScreenMetrics::leftPanelWidth);
+    }
+
     setWidget(m_column);
     applyColours();
 }
@@ -107,10 +118,7 @@ QPushButton* LeftSidebar::addButton(const char* key, const char* name, int above
     auto* const button = new QPushButton(controlText(key), m_column);
     button->setObjectName(QString::fromLatin1(name));
     button->setFont(systemFont(12, QFont::DemiBold));
-    m_rows.push_back({.widget = button,
-                      .width = std::clamp(button->sizeHint().width(), buttonWidth,
-                                          ScreenMetrics::leftPanelWidth),
-                      .above = above});
+    m_rows.push_back({.widget = button, .width = buttonWidth, .above = above});
     return button;
 }
 
