@@ -14,6 +14,7 @@
 #include "platform/user_defaults.h"
 #include "platform/user_folders.h"
 #include "platform/widgets/alert_box.h"
+#include "platform/workspace.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -56,7 +57,9 @@ int main(int argc, char* argv[])
     AudioPlayer audio;
     const PhotoLibrary photos;
     AlertBox alerts;
-    const Platform services{defaults, bundle, mainQueue, notifications, audio, photos, alerts};
+    const Workspace workspace;
+    const Platform services{defaults, bundle, mainQueue, notifications,
+                            audio,    photos, alerts,    workspace};
     usePlatform(&services);
 
     QTranslator ours;

@@ -31,7 +31,7 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
             m_game.endGame();
     });
     gameMenu->addSeparator();
-    addItem(gameMenu, "menu_open_highscores_html", [] {})->setEnabled(false);
+    addItem(gameMenu, "menu_open_highscores_html", [this] { m_game.openHighscoresHTML(); });
     m_restoreHighscores =
         addItem(gameMenu, "menu_restore_highscores", [this] { m_game.restoreHighscores(); });
     gameMenu->addSeparator();

@@ -27,7 +27,7 @@ class AudioPlayer;
 /// otherwise; nothing throws.
 ///
 /// The operations are spread over one source file per concern: round_setup,
-/// flip_rules, game_end, game_clock, sound_effects, game_highscores,
+/// flip_rules, game_end, game_clock, sound_effects, game_highscores, game_report,
 /// image_sources.
 class MemoryGame : public QObject {
     Q_OBJECT
@@ -182,6 +182,10 @@ public:
     /// failed write it can be tried again.
     void restoreHighscores();
     [[nodiscard]] bool canRestoreHighscores() const { return !m_removedEntries.empty(); }
+    /// Writes every stored result into a page beside the results and opens it in
+    /// the browser. If it cannot be written, an alert says so, at once, and the
+    /// page of an earlier call stays.
+    void openHighscoresHTML();
 
     // Image sources: the pictures to deal from; short or empty on any failure.
     [[nodiscard]] CardPictures loadImagesFromBundle() const;
@@ -215,8 +219,11 @@ private:
     void stopTimer();
     void playSound(const QString& name);
 
+    [[nodiscard]] QString highscoreFolderURL() const;
     [[nodiscard]] QString highscoreFileURL() const;
     [[nodiscard]] HighscoreEntries readHighscoreFile() const;
+    [[nodiscard]] HighscoreEntries loadAllHighscoreEntries() const;
+    [[nodiscard]] QString buildHighscoresHTML(const HighscoreEntries& entries) const;
     void appendHighscoreEntry(const HighscoreEntry& entry);
     void updateHighscoreLists(const HighscoreEntries& entries);
     void storeCurrentResult();

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "highscores/highscore_file.h"
 
+#include "platform/atomic_file.h"
 #include "platform/user_folders.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 QString highscoreFolder()
 {
@@ -39,12 +39,5 @@ std::optional<HighscoreEntries> readHighscores(const QString& path)
 
 bool writeHighscores(const QString& path, const HighscoreEntries& entries)
 {
-    QSaveFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
-        return false;
-    const QByteArray json = encodeHighscores(entries);
-    // A disk that fills up takes a part, which alone is no error to commit().
-    if (file.write(json) != json.size())
-        file.cancelWriting();
-    return file.commit();
+    return !writeAtomically(path, encodeHighscores(entries));
 }

@@ -64,8 +64,8 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_resetButton = addButton("reset_highscores", "resetButton", 10);
     connect(m_resetButton, &QPushButton::clicked, &m_game, &MemoryGame::resetHighscores);
 
-    m_reportButton = addButton("open_highscores_html", "reportButton", 6);
-    m_reportButton->setEnabled(false);
+    QPushButton* const reportButton = addButton("open_highscores_html", "reportButton", 6);
+    connect(reportButton, &QPushButton::clicked, &m_game, &MemoryGame::openHighscoresHTML);
 
     m_versusCheckbox = new QCheckBox(controlText("versus_mode"), m_column);
     m_versusCheckbox->setObjectName(QStringLiteral("versusCheckbox"));
