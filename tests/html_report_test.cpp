@@ -12,6 +12,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QTest>
+#include <QTimeZone>
 #include <QUrl>
 #include <csignal>
 #include <memory>
@@ -160,8 +161,9 @@ private Q_SLOTS:
         for (QString& time : times)
             time = time.section(u'"', 0, 0);
         QCOMPARE(times.join(u' '), u"0 1 2 3 4 5 6 7 8 9 10 11 -1"_s);
-        QCOMPARE(between(page, u"<p class=\"subtitle\">"_s, u"</p>"_s),
-                 u"Every stored result. Current settings: layout 6 of 6, rounds: 1."_s);
+        QCOMPARE(
+            between(page, u"<p class=\"subtitle\">"_s, u"</p>"_s),
+            u"Every stored result. Current settings: layout\u00a06 of\u00a06, rounds:\u00a01."_s);
         QVERIFY(!page.contains(u"highscores_"_s)); // every text was found
 
         // The report is made anew; an unreadable file holds no records.
@@ -225,7 +227,8 @@ private Q_SLOTS:
     void datesFollowTheLocale()
     {
         QFETCH(const QString, text);
-        QString shown = dateText(QDateTime({2026, 2, 3}, {14, 5}),
+        // Whatever zone it is of, the time is the one that its own clock shows.
+        QString shown = dateText(QDateTime({2026, 2, 3}, {14, 5}, QTimeZone(19800)),
                                  QString::fromLatin1(QTest::currentDataTag()));
         // Some releases of ICU put a narrow space before PM.
         QCOMPARE(shown.replace(QChar(0x202f), u' '), text);

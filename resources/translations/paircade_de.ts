@@ -102,7 +102,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
     <source></source><translation>Paircade-Highscores</translation></message>
   <message id="highscores_html_subtitle"><extracomment>Below the heading. %1: internal number, left out on purpose; %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
-    <source></source><translation>Alle gespeicherten Ergebnisse. Aktuelle Einstellungen: Layout %2 von 6, Runden: %3.</translation></message>
+    <source></source><translation>Alle gespeicherten Ergebnisse. Aktuelle Einstellungen: Layout&#xa0;%2 von&#xa0;6, Runden:&#xa0;%3.</translation></message>
   <message id="highscores_html_generated"><extracomment>Below the subtitle. %1: date and time of the page.</extracomment>
     <source></source><translation>Erstellt am %1</translation></message>
   <message id="highscores_html_player"><extracomment>Column heading: one name, or two with vs between them.</extracomment>
@@ -110,7 +110,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_time"><extracomment>Column heading.</extracomment>
     <source></source><translation>Zeit</translation></message>
   <message id="highscores_html_failures"><extracomment>Column heading: failed attempts of one player, or pairs of two players, 3 : 5.</extracomment>
-    <source></source><translation>Fehlversuche / Punkte</translation></message>
+    <source></source><translation>Fehler /&#xa0;Punkte</translation></message>
   <message id="highscores_html_cards"><extracomment>Column heading: columns and rows of the board, 4x3.</extracomment>
     <source></source><translation>Karten</translation></message>
   <message id="highscores_html_rounds"><extracomment>Column heading: number of rounds.</extracomment>

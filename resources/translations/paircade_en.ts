@@ -102,7 +102,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
     <source></source><translation>Paircade Highscores</translation></message>
   <message id="highscores_html_subtitle"><extracomment>Below the heading. %1: internal number, left out on purpose; %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
-    <source></source><translation>Every stored result. Current settings: layout %2 of 6, rounds: %3.</translation></message>
+    <source></source><translation>Every stored result. Current settings: layout&#xa0;%2 of&#xa0;6, rounds:&#xa0;%3.</translation></message>
   <message id="highscores_html_generated"><extracomment>Below the subtitle. %1: date and time of the page.</extracomment>
     <source></source><translation>Generated on %1</translation></message>
   <message id="highscores_html_player"><extracomment>Column heading: one name, or two with vs between them.</extracomment>
@@ -110,7 +110,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_time"><extracomment>Column heading.</extracomment>
     <source></source><translation>Time</translation></message>
   <message id="highscores_html_failures"><extracomment>Column heading: failed attempts of one player, or pairs of two players, 3 : 5.</extracomment>
-    <source></source><translation>Failed attempts / score</translation></message>
+    <source></source><translation>Misses /&#xa0;score</translation></message>
   <message id="highscores_html_cards"><extracomment>Column heading: columns and rows of the board, 4x3.</extracomment>
     <source></source><translation>Cards</translation></message>
   <message id="highscores_html_rounds"><extracomment>Column heading: number of rounds.</extracomment>
@@ -122,7 +122,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_mode_solo"><extracomment>Mode of a result of one player.</extracomment>
     <source></source><translation>Single player</translation></message>
   <message id="highscores_mode_versus"><extracomment>Mode of a result of two players.</extracomment>
-    <source></source><translation>Versus</translation></message>
+    <source></source><translation>1 vs 1</translation></message>
 
   <!-- Menus -->
   <message id="menu_game"><extracomment>Menu bar.</extracomment>

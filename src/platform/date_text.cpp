@@ -17,12 +17,15 @@ QString currentLocaleIdentifier()
 
 QString dateText(const QDateTime& time, const QString& localeIdentifier)
 {
+    // ICU's own idea of the time zone misses some that the system knows, so the
+    // time is handed to it as if it were one of the zone zero.
     UErrorCode error = U_ZERO_ERROR;
     const icu::LocalUDateFormatPointer format(udat_open(UDAT_SHORT, UDAT_MEDIUM,
                                                         localeIdentifier.toLatin1().constData(),
-                                                        nullptr, -1, nullptr, 0, &error));
+                                                        u"UTC", -1, nullptr, 0, &error));
+    const UDate moment = UDate(time.toMSecsSinceEpoch()) + 1000.0 * time.offsetFromUtc();
     std::array<char16_t, 256> text{};
-    const auto length = udat_format(format.getAlias(), UDate(time.toMSecsSinceEpoch()), text.data(),
-                                    text.size(), nullptr, &error);
+    const auto length =
+        udat_format(format.getAlias(), moment, text.data(), text.size(), nullptr, &error);
     return U_SUCCESS(error) ? QString::fromUtf16(text.data(), length) : QString();
 }

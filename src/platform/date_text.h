@@ -6,8 +6,8 @@
 #include <QString>
 
 /// The identifier of the user's locale, language first: "de_DE", "gsw_CH",
-/// "en_US_POSIX". Named by the first of the languages that also choose the texts,
-/// so that a page and the dates on it are in one language.
+/// "en_US_POSIX". The first of the languages that the user wants programs to
+/// speak.
 [[nodiscard]] QString currentLocaleIdentifier();
 
 /// `time` in ICU's medium date and short time style for the locale: 25.11.2026,
