@@ -14,6 +14,7 @@
 #include "platform/user_defaults.h"
 #include "platform/user_folders.h"
 #include "platform/widgets/alert_box.h"
+#include "platform/widgets/appearance.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -75,6 +76,7 @@ int main(int argc, char* argv[])
     }
 
     const Termination termination;
+    const Appearance appearance;
     AppDelegate delegate;
     QObject::connect(&instance, &SingleInstance::startedAgain, &delegate,
                      [&delegate](const QByteArray& activationToken) {

@@ -2,9 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/content_view.h"
 
+#include "decks/deck_look.h"
+#include "platform/widgets/appearance.h"
+#include "ui/celebration.h"
 #include "ui/colours.h"
 #include "ui/game_board.h"
 #include "ui/header.h"
+#include "ui/invitation.h"
+#include "ui/leaving_board.h"
 #include "ui/left_sidebar.h"
 #include "ui/logo.h"
 #include "ui/screen_metrics.h"
@@ -14,6 +19,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <utility>
@@ -44,6 +50,7 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     , m_game(std::move(game))
     , m_header(new Header(*m_game, this))
     , m_leftSidebar(new LeftSidebar(*m_game, this))
+    , m_invitation(new Invitation(*m_game, this))
     , m_singlePlayerStartView(new SinglePlayerStartView(*m_game, this))
     , m_versusStartView(new VersusStartView(*m_game, this))
     , m_boardArea(new QScrollArea(this))
@@ -75,15 +82,24 @@ QSize ContentView::minimumSizeHint() const
     return {1100, 650};
 }
 
+QRect ContentView::mainArea() const
+{
+    using namespace ScreenMetrics;
+    return {dividerX, headerHeight, width() - dividerX, height() - headerHeight};
+}
+
 void ContentView::layOut()
 {
     using namespace ScreenMetrics;
     m_header->setGeometry(0, 0, width(), headerHeight);
     m_leftSidebar->setGeometry(0, headerHeight, dividerX, height() - headerHeight);
-    const QRect main(dividerX, headerHeight, width() - dividerX, height() - headerHeight);
+    const QRect main = mainArea();
     for (QWidget* const content :
          std::initializer_list<QWidget*>{m_singlePlayerStartView, m_versusStartView, m_boardArea})
         content->setGeometry(main);
+    m_invitation->arrange(main, main.top() + (m_game->isVersusMode()
+                                                  ? m_versusStartView->controlsTop()
+                                                  : m_singlePlayerStartView->controlsTop()));
     m_divider->setGeometry(dividerX, 0, 1, height());
     m_logo->setGeometry(leadingPadding, 22, 180, 180);
     m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
@@ -96,6 +112,7 @@ void ContentView::resizeEvent(QResizeEvent*)
 
 void ContentView::showEvent(QShowEvent*)
 {
+    layOut();
     refresh();
 }
 
@@ -103,6 +120,10 @@ void ContentView::noteChange(MemoryGame::Member member)
 {
     if (member == MemoryGame::Member::isGameActive)
         m_needsFocus = true;
+    // By the time of the refresh another board may lie there.
+    if (member == MemoryGame::Member::cards && m_game->isGameActive() &&
+        std::ranges::all_of(m_game->cards(), &MemoryCard::isMatched))
+        m_wonBoard = m_game->cards();
     scheduleRefresh();
 }
 
@@ -123,11 +144,59 @@ void ContentView::refresh()
 {
     m_singlePlayerStartView->refresh();
     m_versusStartView->refresh();
+    showLeavingBoard();
     m_gameBoard->refresh();
     m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
     showMainContent();
     m_leftSidebar->refresh();
     m_header->refresh();
+    inviteAgain();
+}
+
+void ContentView::showLeavingBoard()
+{
+    const MemoryCards won = std::exchange(m_wonBoard, {});
+    if (won.empty() || !isVisible())
+        return;
+    auto cards = m_gameBoard->leavingCards(won);
+    const QPoint offset = m_gameBoard->mapTo(this, QPoint()) - mainArea().topLeft();
+    for (LeavingBoard::Card& card : cards)
+        card.place.translate(offset);
+    auto* const leaving = new LeavingBoard(std::move(cards), this);
+    leaving->setGeometry(mainArea());
+    leaving->show();
+    if (m_game->gameCompleted())
+        connect(leaving, &LeavingBoard::turned, this, &ContentView::celebrate);
+}
+
+void ContentView::celebrate()
+{
+    if (Appearance::isMotionReduced() || m_game->isGameActive() || !m_game->gameCompleted())
+        return;
+    auto* const celebration = new Celebration(deckLook(m_game->cardDeck()), mainArea(), this);
+    celebration->stackUnder(m_invitation);
+    celebration->show();
+}
+
+void ContentView::inviteAgain()
+{
+    const bool isBoard = m_game->isGameActive();
+    const bool isVersusForm = m_game->isVersusMode();
+    const bool isOtherView = isBoard != m_showsBoard || isVersusForm != m_showsVersusForm;
+    m_showsBoard = isBoard;
+    m_showsVersusForm = isVersusForm;
+    if (!isOtherView) {
+        m_invitation->refresh();
+        return;
+    }
+    m_invitation->setVisible(!isBoard);
+    if (isBoard) {
+        m_invitation->dropPictures();
+        delete findChild<Celebration*>();
+    } else {
+        layOut();
+        m_invitation->standReady();
+    }
 }
 
 void ContentView::showMainContent()

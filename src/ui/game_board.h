@@ -3,15 +3,17 @@
 #pragma once
 
 #include "game/memory_card.h"
+#include "ui/frame_clock.h"
+#include "ui/leaving_board.h"
 
-#include <QPointF>
-#include <QUuid>
+#include <QRegion>
 #include <QWidget>
 #include <cstddef>
 #include <vector>
 
 class MemoryCardView;
 class MemoryGame;
+class QPainter;
 
 /// The grid of cards. Owns one tile per card and keeps it as long as the card
 /// lies on the board; paints all of them, and the focus ring.
@@ -34,6 +36,10 @@ public:
     /// Whether the focused card wears its ring: after a key, not after a press.
     void setFocusRingShown(bool isShown);
 
+    /// The cards as they lie, on their way to the state `cards`, for a picture of
+    /// a board that has been won; places count from this widget.
+    [[nodiscard]] std::vector<LeavingBoard::Card> leavingCards(const MemoryCards& cards) const;
+
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
@@ -47,7 +53,9 @@ protected:
 
 private:
     void replaceTiles(const MemoryCards& cards);
+    void followFrame();
     void arrange();
+    void paintFocusRing(QPainter& painter) const;
     [[nodiscard]] QSizeF gridSize() const;
     [[nodiscard]] QRectF place(const MemoryCardView& tile) const;
     [[nodiscard]] QString accessibleText(const MemoryCard& card, std::size_t position,
@@ -60,4 +68,6 @@ private:
     double m_cardSize = 0;
     std::size_t m_focusedPosition = 0;
     bool m_isFocusRingShown = false;
+    FrameTimer m_frames;
+    QRegion m_moved{}; ///< Where moving cards were painted last.
 };
