@@ -167,12 +167,13 @@ private Q_SLOTS:
     {
         QFETCH(const QStringList, cuts);
         const Performance heard =
-            listen(QStringList{m_flat + u"@1"_s, u"400"_s} + cuts + QStringList{u"600"_s});
+            listen(QStringList{u"prepare"_s, u"200"_s, m_flat + u"@1"_s, u"400"_s} + cuts +
+                   QStringList{u"600"_s});
         QCOMPARE(heard.failures, QByteArrayList());
         // What is louder than the tone can only be the flat sound.
         const std::size_t begin = onset(heard.left, 0, 0);
         const std::size_t cut = lastAbove(heard.left, tonePeak + 100);
-        QVERIFY(cut > begin + rate * 3 / 10 && cut < begin + rate);
+        QVERIFY(cut > begin + rate / 5 && cut < begin + rate);
         const double toneLeft = double(lastAbove(heard.left, 0) - cut) / rate;
         QVERIFY2(toneLeft > toneSeconds - 0.05 && toneLeft < toneSeconds + 0.05,
                  qPrintable(QString::number(toneLeft)));
@@ -197,22 +198,19 @@ private Q_SLOTS:
                     path("missing.mp3") + u"@1"_s, m_home.path() + u"@1"_s, u"1400"_s});
         QCOMPARE(heard.failures.size(), 5);
         QVERIFY(!heard.failures.contains(QByteArray()));
-        const double length =
-            double(lastAbove(heard.left, flatPeak - 1) - onset(heard.left, 0, flatPeak - 1)) / rate;
-        QVERIFY2(std::abs(length - flatSeconds + 0.02) < 0.002,
-                 qPrintable(QString::number(length)));
+        // Heard whole, up to its last sample.
         QCOMPARE(std::count(heard.left.begin(), heard.left.end(), flatPeak),
                  qRound((flatSeconds - 0.02) * rate) + 1);
     }
 
     void theSoundsOfTheGameAreHeard()
     {
-        QStringList script;
+        QStringList script{u"prepare"_s, u"200"_s};
         for (const char* const name : {"card_done", "card_reset", "card_flip", "done"}) {
             const auto file = ApplicationBundle::ofRunningProgram().resource(
                 QString::fromLatin1(name), u"mp3"_s, u"Sounds"_s);
             QVERIFY(file);
-            script << *file + u"@1"_s << u"800"_s;
+            script << *file + u"@1"_s << u"900"_s;
         }
         const Performance heard = listen(script);
         QCOMPARE(heard.failures, QByteArrayList());
@@ -231,22 +229,22 @@ private Q_SLOTS:
         QVERIFY(server.listen(path("server")));
         m_environment.insert(u"PULSE_SERVER"_s, u"unix:"_s + path("server"));
         const Performance heard =
-            listen({u"prepare"_s, path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, u"300"_s},
+            listen({u"prepare"_s, path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, u"500"_s},
                    u"pulseaudio"_s);
         if (!server.waitForNewConnection(0))
             QSKIP("SDL was built without PulseAudio");
         QCOMPARE(heard.failures, QByteArrayList()); // so the thread is still waiting
-        QVERIFY2(heard.slowestCall < 20, qPrintable(QString::number(heard.slowestCall)));
+        QVERIFY2(heard.slowestCall < 100, qPrintable(QString::number(heard.slowestCall)));
         QVERIFY2(heard.farewell < 2000, qPrintable(QString::number(heard.farewell)));
     }
 
     void withoutADeviceFilesAreStillChecked()
     {
         const Performance heard = listen(
-            {path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, m_home.path() + u"@1"_s, u"300"_s},
+            {path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, m_home.path() + u"@1"_s, u"500"_s},
             u"nosuchdriver"_s);
         QCOMPARE(heard.failures.size(), 2);
-        QVERIFY2(heard.slowestCall < 20, qPrintable(QString::number(heard.slowestCall)));
+        QVERIFY2(heard.slowestCall < 100, qPrintable(QString::number(heard.slowestCall)));
     }
 
 private:

@@ -4,16 +4,14 @@
 #include "decks/deck_name.h"
 #include "platform/application_bundle.h"
 #include "platform/user_defaults.h"
+#include "support/output_of.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTemporaryFile>
 #include <QTest>
 #include <filesystem>
-#include <functional>
 #include <memory>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -42,22 +40,6 @@ QString namesOf(const CardPictures& pictures)
     for (const CardPicture& picture : pictures)
         names << picture.name;
     return names.join(u' ');
-}
-
-/// What `action` writes to standard output, flushed by itself.
-QByteArray outputOf(const std::function<void()>& action)
-{
-    QTemporaryFile file;
-    if (!file.open())
-        qFatal("the test cannot write its file");
-    std::fflush(stdout);
-    const int terminal = ::dup(STDOUT_FILENO);
-    ::dup2(file.handle(), STDOUT_FILENO);
-    action();
-    ::dup2(terminal, STDOUT_FILENO);
-    ::close(terminal);
-    file.seek(0);
-    return file.readAll();
 }
 
 } // namespace
@@ -234,3 +216,4 @@ private:
 
 QTEST_GUILESS_MAIN(BundleDeckTest)
 #include "bundle_deck_test.moc"
+#include "support/output_of.h"

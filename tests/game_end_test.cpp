@@ -5,7 +5,9 @@
 #include "game/memory_game.h"
 #include "highscores/highscore_file.h"
 #include "platform/localized_text.h"
+#include "platform/user_folders.h"
 #include "settings/settings_keys.h"
+#include "support/output_of.h"
 #include "support/play.h"
 #include "support/test_platform.h"
 
@@ -229,6 +231,38 @@ private Q_SLOTS:
         QVERIFY(QDir(m_platform->highscoreFile()).removeRecursively());
         m_game->restoreHighscores();
         QCOMPARE(storedEntries().size(), 1U);
+    }
+
+    void aFailedResetIsLoggedAndKeepsNothing()
+    {
+        m_game->startNewGame();
+        playToTheEnd();
+        QVERIFY(QFile::remove(m_platform->highscoreFile()));
+        QVERIFY(QDir().mkpath(m_platform->highscoreFile() + QStringLiteral("/inside")));
+        const QByteArray log = outputOf([this] { m_game->resetHighscores(); });
+        QVERIFY2(log.startsWith("Fehler beim Zurücksetzen der Highscores: "), log.constData());
+        QCOMPARE(log.count('\n'), 1);
+        QVERIFY(m_game->bestTimeScores().empty() && m_game->bestFailureScores().empty());
+        QVERIFY(QFile::exists(m_platform->highscoreFile()));
+        QVERIFY(!m_game->canRestoreHighscores());
+
+        QVERIFY(QDir(m_platform->highscoreFile()).removeRecursively());
+        QCOMPARE(outputOf([this] { m_game->resetHighscores(); }), QByteArray());
+    }
+
+    void theSettingsOfTheStartHoldToTheEnd()
+    {
+        m_game->startNewGame();
+        {
+            UserDefaults otherProgram(settingsFile());
+            otherProgram.setInteger(SettingsKeys::AmountCards, 6);
+            otherProgram.setInteger(SettingsKeys::AmountRounds, 10);
+        }
+        playToTheEnd();
+        QCOMPARE(storedEntries()[0].amountCards, 1);
+        QCOMPARE(storedEntries()[0].amountRounds, 1);
+        m_game->startNewGame();
+        QCOMPARE(m_game->totalRounds(), 10);
     }
 
     void aResetKeepsNothingThatItCouldNotRead_data()

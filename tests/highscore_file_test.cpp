@@ -302,7 +302,9 @@ private Q_SLOTS:
         const rlimit full{1000, before.rlim_max};
         std::signal(SIGXFSZ, SIG_IGN);
         ::setrlimit(RLIMIT_FSIZE, &full);
-        const bool isWritten = writeHighscores(highscoreFile(), HighscoreEntries(10'000));
+        bool isWritten = false;
+        for (const std::size_t count : {10U, 100U, 10'000U}) // less and more than a buffer holds
+            isWritten |= writeHighscores(highscoreFile(), HighscoreEntries(count));
         ::setrlimit(RLIMIT_FSIZE, &before);
         QVERIFY(!isWritten);
         QCOMPARE(contentsOf(highscoreFile()), old);

@@ -5,7 +5,9 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTest>
+#include <QThread>
 #include <memory>
+#include <thread>
 
 using namespace std::chrono_literals;
 
@@ -95,6 +97,18 @@ private Q_SLOTS:
         QTest::qWait(30);
         QCOMPARE(m_log, QByteArray());
         QCOMPARE(held.use_count(), 1);
+    }
+
+    void aTaskMayComeFromAnyThread()
+    {
+        MainQueue queue;
+        int onMainThread = 0;
+        const auto* const here = QThread::currentThread();
+        std::thread([&] {
+            for (int i = 0; i < 100; ++i)
+                queue.async([&] { onMainThread += QThread::currentThread() == here ? 1 : 0; });
+        }).join();
+        QTRY_COMPARE(onMainThread, 100);
     }
 
 private:

@@ -141,7 +141,7 @@ private Q_SLOTS:
         for (const auto& [order, count] : counts)
             chiSquare += (count - expected) * (count - expected) / expected;
         // With 23 degrees of freedom a fair shuffle exceeds 80 once in 30
-        // million runs; one that swaps each place with any place gives 2000.
+        // million runs; one that swaps each place with any exceeds 10,000.
         QVERIFY2(chiSquare < 80, qPrintable(QString::number(chiSquare)));
     }
 };

@@ -10,6 +10,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
+#include <cstdio>
 
 class SingleInstanceTest : public QObject {
     Q_OBJECT
@@ -40,7 +42,7 @@ private Q_SLOTS:
         QByteArrayList tokens;
         connect(&first, &SingleInstance::startedAgain, this,
                 [&](const QByteArray& token) { tokens << token; });
-        QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data"))),
+        QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data")), {}),
                  SingleInstance::Claim::isOurs);
 
         QCOMPARE(claimElsewhere(path, "token 1\nx"), int(SingleInstance::Claim::handedOver));
@@ -52,7 +54,7 @@ private Q_SLOTS:
     void anotherFolderIsAnotherGame()
     {
         SingleInstance first;
-        QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data"))),
+        QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data")), {}),
                  SingleInstance::Claim::isOurs);
         QVERIFY(QDir(m_home->path()).mkpath(QStringLiteral("other")));
         QCOMPARE(claimElsewhere(QStringLiteral("other"), {}), int(SingleInstance::Claim::isOurs));
@@ -62,7 +64,7 @@ private Q_SLOTS:
     {
         {
             SingleInstance first;
-            QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data"))),
+            QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data")), {}),
                      SingleInstance::Claim::isOurs);
         }
         QCOMPARE(claimElsewhere(QStringLiteral("data"), {}), int(SingleInstance::Claim::isOurs));
@@ -77,22 +79,35 @@ private Q_SLOTS:
     void aHolderThatDoesNotAnswerIsGivenUp()
     {
         SingleInstance first;
-        QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data"))),
+        QCOMPARE(first.claim(m_home->filePath(QStringLiteral("data")), {}),
                  SingleInstance::Claim::isOurs);
         // This process holds the folder and, waiting here, serves nobody.
         QElapsedTimer waited;
         waited.start();
         SingleInstance second;
-        QCOMPARE(second.claim(m_home->filePath(QStringLiteral("data"))),
+        QCOMPARE(second.claim(m_home->filePath(QStringLiteral("data")), {}),
                  SingleInstance::Claim::noAnswer);
         QVERIFY2(waited.elapsed() < 3000, qPrintable(QString::number(waited.elapsed())));
+    }
+
+    void aHolderThatJustLeavesIsSucceeded()
+    {
+        // A lock of a game that does not listen, and goes in a moment.
+        QProcess holder;
+        holder.start(QCoreApplication::applicationFilePath(),
+                     {QStringLiteral("--hold"), m_home->filePath(QStringLiteral("data/lock"))});
+        QVERIFY(holder.waitForReadyRead(5000));
+        SingleInstance next;
+        QCOMPARE(next.claim(m_home->filePath(QStringLiteral("data")), {}),
+                 SingleInstance::Claim::isOurs);
+        QVERIFY(holder.waitForFinished(5000));
     }
 
     void withoutAUsableFolderTheGameRunsUnguarded()
     {
         SingleInstance instance;
-        QCOMPARE(instance.claim(QString()), SingleInstance::Claim::isOurs);
-        QCOMPARE(instance.claim(m_home->filePath(QStringLiteral("missing"))),
+        QCOMPARE(instance.claim(QString(), {}), SingleInstance::Claim::isOurs);
+        QCOMPARE(instance.claim(m_home->filePath(QStringLiteral("missing")), {}),
                  SingleInstance::Claim::isOurs);
     }
 
@@ -118,7 +133,16 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     if (argc == 3 && qstrcmp(argv[1], "--claim") == 0)
-        return int(SingleInstance().claim(QString::fromLocal8Bit(argv[2])));
+        return int(SingleInstance().claim(QString::fromLocal8Bit(argv[2]),
+                                          SingleInstance::ownActivationToken()));
+    if (argc == 3 && qstrcmp(argv[1], "--hold") == 0) {
+        QLockFile lock(QString::fromLocal8Bit(argv[2]));
+        (void)lock.tryLock();
+        std::puts("held");
+        std::fflush(stdout);
+        QThread::msleep(700);
+        return 0;
+    }
     SingleInstanceTest test;
     return QTest::qExec(&test, argc, argv);
 }

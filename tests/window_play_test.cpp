@@ -171,6 +171,46 @@ private Q_SLOTS:
         QCOMPARE(m_window->game().playerName(), QStringLiteral("Annaa"));
     }
 
+    void clicksInAHurryActOnWhatTheGameHasComeTo()
+    {
+        // No event between the clicks: the screen has not followed yet.
+        auto& checkbox = m_window->child<QCheckBox>(QStringLiteral("versusCheckbox"));
+        m_window->type(QStringLiteral("Ann"));
+        QCoreApplication::processEvents();
+        pressAt(m_window->child<QPushButton>(QStringLiteral("startButton")));
+        pressAt(checkbox);
+        QVERIFY(m_window->game().isGameActive() && !m_window->game().isVersusMode());
+        checkbox.click();
+        QVERIFY(!m_window->game().isVersusMode() && !checkbox.isChecked());
+        m_window->game().endGame();
+
+        QCoreApplication::processEvents();
+        m_window->click(checkbox);
+        for (const char* const field : {"playerOneName", "playerTwoName"}) {
+            m_window->click(m_window->child<QLineEdit>(QString::fromLatin1(field)));
+            m_window->type(QStringLiteral("x"));
+        }
+        QCoreApplication::processEvents();
+        m_window->click(m_window->child<QPushButton>(QStringLiteral("startVersusButton")));
+        auto& end = m_window->child<QPushButton>(QStringLiteral("endButton"));
+        pressAt(end);
+        end.click();
+        QCOMPARE(m_window->platform.readHighscoreFile().count("\"id\""), 1);
+    }
+
+    void aDoubleClickActsOnOneViewOnly()
+    {
+        m_window->type(QStringLiteral("Ann"));
+        QCoreApplication::processEvents();
+        auto& start = m_window->child<QPushButton>(QStringLiteral("startButton"));
+        // A card lies there afterwards.
+        const QPoint place = start.mapTo(&m_window->window(), QPoint(10, 5));
+        QTest::mouseDClick(m_window->window().windowHandle(), Qt::LeftButton, {}, place);
+        QCoreApplication::processEvents();
+        QVERIFY(m_window->game().isGameActive());
+        QCOMPARE(faceUpCards(m_window->game()), 0);
+    }
+
     void aNewRoundKeepsTheFocusAtItsPlace()
     {
         m_window->platform.defaults->setInteger(SettingsKeys::AmountRounds, 2);
@@ -222,6 +262,13 @@ private Q_SLOTS:
     }
 
 private:
+    /// Clicks without letting anything happen before or after.
+    void pressAt(QWidget& widget)
+    {
+        QTest::mouseClick(m_window->window().windowHandle(), Qt::LeftButton, {},
+                          widget.mapTo(&m_window->window(), QPoint(5, 5)));
+    }
+
     void moveTo(std::size_t position)
     {
         const auto columns = std::size_t(m_window->game().cardColumns());

@@ -7,6 +7,7 @@
 #include "support/game_window.h"
 
 #include <QAction>
+#include <QDir>
 #include <QPushButton>
 #include <QScreen>
 
@@ -198,7 +199,6 @@ private Q_SLOTS:
         auto& endGame = window.child<QAction>(QStringLiteral("menu_end_game"));
         auto& restore = window.child<QAction>(QStringLiteral("menu_restore_highscores"));
         QVERIFY(!newGame.isEnabled() && !endGame.isEnabled() && !restore.isEnabled());
-        QVERIFY(!window.child<QAction>(QStringLiteral("menu_open_highscores_html")).isEnabled());
 
         window.type(QStringLiteral("Ann"));
         QCoreApplication::processEvents();
@@ -217,6 +217,33 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QVERIFY(window.child<QLabel>(QStringLiteral("bestTimes1")).isVisible());
         QVERIFY(!restore.isEnabled());
+    }
+
+    void theReportOpensFromSidebarAndMenuAtAnyTime()
+    {
+        GameWindow window;
+        const QStringList& opened = window.platform.openedFiles.paths;
+        QPushButton& button = window.child<QPushButton>(QStringLiteral("reportButton"));
+        window.click(button);
+        QCOMPARE(opened.size(), 1);
+        window.startGame();
+        window.click(button);
+        window.child<QAction>(QStringLiteral("menu_open_highscores_html")).trigger();
+        QCOMPARE(opened.size(), 3);
+
+        // The alert waits for nothing: it is gone when the click is done.
+        QVERIFY(QFile::remove(opened.constFirst()) && QDir().mkdir(opened.constFirst()));
+        bool isShown = false;
+        whenAlerted([&](QMessageBox& box) {
+            isShown = true;
+            QCOMPARE(box.icon(), QMessageBox::Warning);
+            QCOMPARE(box.text(), localizedText("highscores_export_error_title"));
+            QCOMPARE(box.informativeText(), QStringLiteral("Filename refers to a directory"));
+            QCOMPARE(box.buttons().constFirst()->text(), QStringLiteral("OK"));
+        });
+        window.click(button);
+        QVERIFY(isShown);
+        QCOMPARE(opened.size(), 3);
     }
 
     void eachStateOfACardIsDrawnAndNamed()

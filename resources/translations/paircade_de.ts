@@ -76,7 +76,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="iphoto_album_not_found"><extracomment>Message, first line: the folder of the chosen album is gone.</extracomment>
     <source></source><translation>Das Fotoalbum wurde nicht gefunden</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
-    <source></source><translation>Sein Ordner wurde vielleicht umbenannt, verschoben oder gelöscht. Stelle den Ordner wieder her oder wähle in den Einstellungen ein anderes Deck.</translation></message>
+    <source></source><translation>Sein Ordner wurde möglicherweise umbenannt, verschoben oder gelöscht. Stelle den Ordner wieder her oder wähle in den Einstellungen ein anderes Deck.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
     <source></source><translation>Es wurden keine Fotos gefunden</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
@@ -84,7 +84,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Die Highscore-Seite konnte nicht gespeichert werden</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>
-    <source></source><translation>Paircade läuft bereits, antwortet aber nicht. Warte einen Moment und versuche es noch einmal. Hilft das nicht, beende zuerst das laufende Spiel.</translation></message>
+    <source></source><translation>Paircade läuft bereits, antwortet aber nicht. Warte einen Moment und versuche es noch einmal. Hilft das nicht, beende zuerst das laufende Paircade.</translation></message>
 
   <!-- Preferences -->
   <message id="play_rounds_label_singular"><extracomment>Beside the rounds control. %1: number of rounds, always 1.</extracomment>
@@ -151,16 +151,18 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Über Paircade</translation></message>
   <message id="keyboard_help"><extracomment>Help text, one line a key.</extracomment>
     <source></source><translation>Tab: durch die Bedienelemente gehen
-Pfeiltasten: über das Spielfeld gehen
+Pfeiltasten: sich auf dem Spielfeld bewegen
 Pos1, Ende: erste und letzte Karte der Reihe
 Strg+Pos1, Strg+Ende: erste und letzte Karte des Spielfelds
 Leertaste, Eingabetaste: Karte umdrehen
+Alt und unterstrichener Buchstabe: dieses Bedienelement oder Menü
+Strg+N: neues Spiel
 F11: Vollbild
 Strg+Q: Paircade beenden</translation></message>
   <message id="about_text"><extracomment>About the program. %1: version number.</extracomment>
     <source></source><translation>Paircade %1
 
-Ein Spiel für eine Person oder zwei: Karten umdrehen und Paare finden.
+Ein Spiel für eine oder zwei Personen: Karten umdrehen und Paare finden.
 
 Programm: GPL-3.0-or-later
 Bilder und Klänge: CC-BY-SA-4.0</translation></message>
@@ -226,7 +228,7 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Wolkenkratzer</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Turnschuh</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Regenschirm</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Automat</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Getränkeautomat</translation></message>
   <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>VR-Brille</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
@@ -262,7 +264,7 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="card_daisy"><extracomment>Picture, 70s.</extracomment><source></source><translation>Gänseblümchen</translation></message>
   <message id="card_disco_ball"><extracomment>Picture, 70s.</extracomment><source></source><translation>Discokugel</translation></message>
   <message id="card_dove"><extracomment>Picture, 70s.</extracomment><source></source><translation>Taube</translation></message>
-  <message id="card_egg_chair"><extracomment>Picture, 70s.</extracomment><source></source><translation>Eiersessel</translation></message>
+  <message id="card_egg_chair"><extracomment>Picture, 70s.</extracomment><source></source><translation>Kugelsessel</translation></message>
   <message id="card_flared_trousers"><extracomment>Picture, 70s.</extracomment><source></source><translation>Schlaghose</translation></message>
   <message id="card_fondue_pot"><extracomment>Picture, 70s.</extracomment><source></source><translation>Fondue</translation></message>
   <message id="card_guitar"><extracomment>Picture, 70s.</extracomment><source></source><translation>Gitarre</translation></message>
@@ -284,7 +286,7 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="card_bmx_bike"><extracomment>Picture, 80s.</extracomment><source></source><translation>BMX-Rad</translation></message>
   <message id="card_boombox"><extracomment>Picture, 80s.</extracomment><source></source><translation>Radiorekorder</translation></message>
   <message id="card_cassette_tape"><extracomment>Picture, 80s.</extracomment><source></source><translation>Kassette</translation></message>
-  <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>Farbwürfel</translation></message>
+  <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>Zauberwürfel</translation></message>
   <message id="card_flamingo"><extracomment>Picture, 80s.</extracomment><source></source><translation>Flamingo</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>Diskette</translation></message>
   <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Kaugummiautomat</translation></message>

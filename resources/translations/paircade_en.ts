@@ -56,9 +56,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>Well done, %1! %2 · Failed attempts: %3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1 wins %2:%3!</translation></message>
+    <source></source><translation>%1 wins %2–%3!</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>It’s a draw at %1:%2</translation></message>
+    <source></source><translation>It’s a draw: %1–%2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
@@ -66,11 +66,11 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
     <source></source><translation>This deck has too few pictures. Needed: %1 (round %2). Choose another deck or a smaller card layout in the preferences.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
-    <source></source><translation>Too few photos are available for a round. Needed: %1. Add more photos, or choose another deck or a smaller card layout in the preferences.</translation></message>
+    <source></source><translation>There are too few photos for a round. Needed: %1. Add more photos, or choose another deck or a smaller card layout in the preferences.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
-    <source></source><translation>Too few photos of this album are available for a round. Needed: %1. Add more photos to the album’s folder, or choose another deck or a smaller card layout in the preferences.</translation></message>
+    <source></source><translation>This album has too few photos for a round. Needed: %1. Add more photos to the album’s folder, or choose another deck or a smaller card layout in the preferences.</translation></message>
   <message id="iphoto_access_denied"><extracomment>Message, first line: a photo deck is chosen, but access to the photos is not allowed.</extracomment>
-    <source></source><translation>Paircade may not use your photos</translation></message>
+    <source></source><translation>Paircade isn’t allowed to use your photos</translation></message>
   <message id="iphoto_access_denied_info"><extracomment>Message, below iphoto_access_denied. The quoted word is the caption in the preferences.</extracomment>
     <source></source><translation>Decks of your own photos need access to your pictures. You can change this in the preferences, under “Photos”.</translation></message>
   <message id="iphoto_album_not_found"><extracomment>Message, first line: the folder of the chosen album is gone.</extracomment>
@@ -80,11 +80,11 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
     <source></source><translation>No photos were found</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>The folder from which this deck takes its photos holds none. Add some photos to it or choose another deck in the preferences.</translation></message>
+    <source></source><translation>The folder this deck takes its photos from is empty. Add some photos to it or choose another deck in the preferences.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>The highscore page could not be saved</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>
-    <source></source><translation>Paircade is already running, but it does not answer. Wait a moment and try again. If that does not help, end the running game first.</translation></message>
+    <source></source><translation>Paircade is already running, but it isn’t responding. Wait a moment and try again. If that does not help, quit the running Paircade first.</translation></message>
 
   <!-- Preferences -->
   <message id="play_rounds_label_singular"><extracomment>Beside the rounds control. %1: number of rounds, always 1.</extracomment>
@@ -155,6 +155,8 @@ Arrow keys: move over the board
 Home, End: first and last card of the row
 Ctrl+Home, Ctrl+End: first and last card of the board
 Space, Return: turn the card
+Alt and an underlined letter: that control or menu
+Ctrl+N: new game
 F11: full screen
 Ctrl+Q: quit</translation></message>
   <message id="about_text"><extracomment>About the program. %1: version number.</extracomment>
@@ -204,7 +206,7 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
     <source></source><translation>picture</translation></message>
 
   <!-- Pictures of the Cyberpunk deck -->
-  <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drink can</translation></message>
+  <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drinks can</translation></message>
   <message id="card_cat"><extracomment>Picture, Cyberpunk and Kids.</extracomment><source></source><translation>Cat</translation></message>
   <message id="card_drone"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drone</translation></message>
   <message id="card_eye"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Eye</translation></message>
@@ -218,19 +220,19 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="card_noodle_bowl"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Noodle bowl</translation></message>
   <message id="card_padlock"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Padlock</translation></message>
   <message id="card_palm"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Palm tree</translation></message>
-  <message id="card_rain_boots"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Rain boots</translation></message>
+  <message id="card_rain_boots"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Wellingtons</translation></message>
   <message id="card_robot"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Robot</translation></message>
   <message id="card_robot_dog"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Robot dog</translation></message>
   <message id="card_robot_hand"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Robot hand</translation></message>
   <message id="card_satellite_dish"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Satellite dish</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Skyscraper</translation></message>
-  <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Sneaker</translation></message>
+  <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Trainer</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Umbrella</translation></message>
   <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Vending machine</translation></message>
   <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>VR goggles</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
-  <message id="card_balloon"><extracomment>Picture, Kids.</extracomment><source></source><translation>Balloon</translation></message>
+  <message id="card_balloon"><extracomment>Picture, Kids.</extracomment><source></source><translation>Hot-air balloon</translation></message>
   <message id="card_bee"><extracomment>Picture, Kids.</extracomment><source></source><translation>Bee</translation></message>
   <message id="card_crab"><extracomment>Picture, Kids.</extracomment><source></source><translation>Crab</translation></message>
   <message id="card_dinosaur"><extracomment>Picture, Kids.</extracomment><source></source><translation>Dinosaur</translation></message>
@@ -250,7 +252,7 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="card_sailing_boat"><extracomment>Picture, Kids.</extracomment><source></source><translation>Sailing boat</translation></message>
   <message id="card_snail"><extracomment>Picture, Kids.</extracomment><source></source><translation>Snail</translation></message>
   <message id="card_tractor"><extracomment>Picture, Kids.</extracomment><source></source><translation>Tractor</translation></message>
-  <message id="card_train"><extracomment>Picture, Kids.</extracomment><source></source><translation>Train</translation></message>
+  <message id="card_train"><extracomment>Picture, Kids.</extracomment><source></source><translation>Steam engine</translation></message>
   <message id="card_turtle"><extracomment>Picture, Kids.</extracomment><source></source><translation>Turtle</translation></message>
   <message id="card_whale"><extracomment>Picture, Kids.</extracomment><source></source><translation>Whale</translation></message>
 
@@ -262,14 +264,14 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="card_daisy"><extracomment>Picture, 70s.</extracomment><source></source><translation>Daisy</translation></message>
   <message id="card_disco_ball"><extracomment>Picture, 70s.</extracomment><source></source><translation>Disco ball</translation></message>
   <message id="card_dove"><extracomment>Picture, 70s.</extracomment><source></source><translation>Dove</translation></message>
-  <message id="card_egg_chair"><extracomment>Picture, 70s.</extracomment><source></source><translation>Egg chair</translation></message>
+  <message id="card_egg_chair"><extracomment>Picture, 70s.</extracomment><source></source><translation>Ball chair</translation></message>
   <message id="card_flared_trousers"><extracomment>Picture, 70s.</extracomment><source></source><translation>Flares</translation></message>
   <message id="card_fondue_pot"><extracomment>Picture, 70s.</extracomment><source></source><translation>Fondue</translation></message>
   <message id="card_guitar"><extracomment>Picture, 70s.</extracomment><source></source><translation>Guitar</translation></message>
   <message id="card_lava_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lava lamp</translation></message>
   <message id="card_mushroom"><extracomment>Picture, 70s.</extracomment><source></source><translation>Mushroom</translation></message>
   <message id="card_orange_slice"><extracomment>Picture, 70s.</extracomment><source></source><translation>Orange</translation></message>
-  <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lamp</translation></message>
+  <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Hanging lamp</translation></message>
   <message id="card_platform_shoe"><extracomment>Picture, 70s.</extracomment><source></source><translation>Platform shoe</translation></message>
   <message id="card_roller_skate"><extracomment>Picture, 70s.</extracomment><source></source><translation>Roller skate</translation></message>
   <message id="card_sunglasses"><extracomment>Picture, 70s and 80s.</extracomment><source></source><translation>Sunglasses</translation></message>
@@ -277,19 +279,19 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="card_telephone"><extracomment>Picture, 70s and 80s.</extracomment><source></source><translation>Telephone</translation></message>
   <message id="card_television"><extracomment>Picture, 70s.</extracomment><source></source><translation>Television</translation></message>
   <message id="card_typewriter"><extracomment>Picture, 70s.</extracomment><source></source><translation>Typewriter</translation></message>
-  <message id="card_vinyl_record"><extracomment>Picture, 70s.</extracomment><source></source><translation>Record</translation></message>
+  <message id="card_vinyl_record"><extracomment>Picture, 70s.</extracomment><source></source><translation>Vinyl record</translation></message>
 
   <!-- Pictures of the 80s deck that no deck above has -->
   <message id="card_arcade_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Arcade machine</translation></message>
   <message id="card_bmx_bike"><extracomment>Picture, 80s.</extracomment><source></source><translation>BMX bike</translation></message>
   <message id="card_boombox"><extracomment>Picture, 80s.</extracomment><source></source><translation>Boombox</translation></message>
   <message id="card_cassette_tape"><extracomment>Picture, 80s.</extracomment><source></source><translation>Cassette</translation></message>
-  <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>Colour cube</translation></message>
+  <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>Puzzle cube</translation></message>
   <message id="card_flamingo"><extracomment>Picture, 80s.</extracomment><source></source><translation>Flamingo</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>Floppy disk</translation></message>
-  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Gum machine</translation></message>
+  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Gumball machine</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Computer</translation></message>
-  <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Ice pop</translation></message>
+  <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Ice lolly</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>Camera</translation></message>
   <message id="card_joystick"><extracomment>Picture, 80s.</extracomment><source></source><translation>Joystick</translation></message>
   <message id="card_lightning_bolt"><extracomment>Picture, 80s.</extracomment><source></source><translation>Lightning</translation></message>

@@ -15,6 +15,7 @@
 #include "platform/user_folders.h"
 #include "platform/widgets/alert_box.h"
 #include "platform/widgets/appearance.h"
+#include "platform/workspace.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -42,6 +43,7 @@ void installCatalogues(QTranslator& ours, QTranslator& controls, const Applicati
 
 int main(int argc, char* argv[])
 {
+    const QByteArray activationToken = SingleInstance::ownActivationToken();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Paircade"));
     QApplication::setApplicationVersion(QStringLiteral(PAIRCADE_VERSION));
@@ -56,7 +58,9 @@ int main(int argc, char* argv[])
     AudioPlayer audio;
     const PhotoLibrary photos;
     AlertBox alerts;
-    const Platform services{defaults, bundle, mainQueue, notifications, audio, photos, alerts};
+    const Workspace workspace;
+    const Platform services{defaults, bundle, mainQueue, notifications,
+                            audio,    photos, alerts,    workspace};
     usePlatform(&services);
 
     QTranslator ours;
@@ -66,7 +70,7 @@ int main(int argc, char* argv[])
         QApplication::setWindowIcon(QIcon(*icon));
 
     SingleInstance instance;
-    const SingleInstance::Claim claim = instance.claim(highscoreFolder());
+    const SingleInstance::Claim claim = instance.claim(highscoreFolder(), activationToken);
     if (claim == SingleInstance::Claim::handedOver)
         return 0;
     if (claim == SingleInstance::Claim::noAnswer) {
@@ -79,9 +83,9 @@ int main(int argc, char* argv[])
     const Appearance appearance;
     AppDelegate delegate;
     QObject::connect(&instance, &SingleInstance::startedAgain, &delegate,
-                     [&delegate](const QByteArray& activationToken) {
-                         if (!activationToken.isEmpty())
-                             qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+                     [&delegate](const QByteArray& token) {
+                         if (!token.isEmpty())
+                             qputenv("XDG_ACTIVATION_TOKEN", token);
                          delegate.activate();
                      });
     delegate.applicationDidFinishLaunching();

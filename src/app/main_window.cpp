@@ -7,13 +7,29 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
-#include <QTimer>
+#include <chrono>
+
+namespace {
+
+// The window manager lays its frame around the window some time after the window
+// is shown, and says nothing of it.
+constexpr std::chrono::milliseconds frameWatchInterval{10};
+constexpr std::chrono::milliseconds frameWatchTime{600};
+
+} // namespace
 
 MainWindow::MainWindow()
 {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QString());
     setAccessibleName(localizedText("window_accessible_name"));
+    m_frameWatch.setInterval(frameWatchInterval);
+    connect(&m_frameWatch, &QTimer::timeout, this, [this] {
+        if (frameSize() != m_settledFrame)
+            settle();
+        if (m_frameDeadline.hasExpired())
+            m_frameWatch.stop();
+    });
 }
 
 void MainWindow::setContentSize(QSize size)
@@ -28,8 +44,7 @@ void MainWindow::applyContentSize()
     // A menu bar that the desktop shows elsewhere takes no room here.
     const QMenuBar* const bar = menuBar();
     const int menuHeight = bar->isNativeMenuBar() ? 0 : bar->sizeHint().height();
-    const QSize frame = frameGeometry().size() - geometry().size();
-    const QSize room = screen()->availableGeometry().size() - frame;
+    const QSize room = screen()->availableGeometry().size() - frameSize();
     setFixedSize((m_contentSize + QSize(0, menuHeight)).boundedTo(room));
 }
 
@@ -46,8 +61,16 @@ void MainWindow::settle()
 {
     if (isFullScreen())
         return;
+    m_settledFrame = frameSize();
     applyContentSize();
     centre();
+}
+
+void MainWindow::awaitFrame()
+{
+    m_settledFrame = QSize(-1, -1);
+    m_frameDeadline.setRemainingTime(frameWatchTime);
+    m_frameWatch.start();
 }
 
 void MainWindow::toggleFullScreen()
@@ -77,8 +100,7 @@ void MainWindow::changeEvent(QEvent* event)
     if (isFullScreen())
         liftLimits();
     else if (wasFullScreen)
-        // The frame comes back a little later than the state.
-        QTimer::singleShot(1, this, &MainWindow::settle);
+        awaitFrame();
     if (wasFullScreen != isFullScreen())
         Q_EMIT fullScreenChanged(isFullScreen());
 }
@@ -86,9 +108,8 @@ void MainWindow::changeEvent(QEvent* event)
 void MainWindow::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
-    // Only now does the window have a frame, which counts for size and centre.
     if (!event->spontaneous())
-        QTimer::singleShot(1, this, &MainWindow::settle);
+        awaitFrame();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

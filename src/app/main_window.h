@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
+#include <QTimer>
 #include <functional>
 
 /// The main window: a menu above the screen, at a size of the game's choosing.
@@ -38,7 +40,12 @@ protected:
 private:
     void applyContentSize();
     void settle();
+    void awaitFrame();
     void liftLimits();
+    [[nodiscard]] QSize frameSize() const { return frameGeometry().size() - geometry().size(); }
 
     QSize m_contentSize{};
+    QSize m_settledFrame{};
+    QTimer m_frameWatch{};
+    QDeadlineTimer m_frameDeadline{};
 };

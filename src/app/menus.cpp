@@ -21,14 +21,17 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
 {
     QMenu* const gameMenu = addMenu("menu_game");
     m_newGame = addItem(gameMenu, "menu_new_game", [this] {
-        // The shortcut may come before the item is disabled.
+        // The choice may come before the item is disabled.
         if (!m_game.isGameActive())
             m_game.startNewGame();
     });
     m_newGame->setShortcut(QKeySequence::New);
-    m_endGame = addItem(gameMenu, "menu_end_game", [this] { m_game.endGame(); });
+    m_endGame = addItem(gameMenu, "menu_end_game", [this] {
+        if (m_game.isGameActive())
+            m_game.endGame();
+    });
     gameMenu->addSeparator();
-    addItem(gameMenu, "menu_open_highscores_html", [] {})->setEnabled(false);
+    addItem(gameMenu, "menu_open_highscores_html", [this] { m_game.openHighscoresHTML(); });
     m_restoreHighscores =
         addItem(gameMenu, "menu_restore_highscores", [this] { m_game.restoreHighscores(); });
     gameMenu->addSeparator();
@@ -42,6 +45,7 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
         addItem(viewMenu, "menu_full_screen", [this] { m_window.toggleFullScreen(); });
     fullScreen->setShortcut(QKeySequence(Qt::Key_F11));
     fullScreen->setCheckable(true);
+    fullScreen->setAutoRepeat(false);
     connect(&m_window, &MainWindow::fullScreenChanged, fullScreen, &QAction::setChecked);
 
     QMenu* const helpMenu = addMenu("menu_help");

@@ -3,9 +3,11 @@
 #include "app/single_instance.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <QThread>
 #include <QTimer>
 #include <chrono>
 
@@ -23,41 +25,49 @@ QString socketPathFor(const QString& folder)
            QStringLiteral("/paircade-") + QString::fromLatin1(hash.first(16));
 }
 
-/// The token by which the desktop lets a started program take the focus.
-QByteArray ownActivationToken()
+/// Passes the token to the game that listens; true once it has answered.
+bool handOver(const QString& socketPath, const QByteArray& token, const QDeadlineTimer& deadline)
+{
+    const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+    QLocalSocket socket;
+    socket.connectToServer(socketPath);
+    if (!socket.waitForConnected(left()))
+        return false;
+    socket.write(QByteArray(token).replace('\n', ' ') + '\n');
+    return socket.waitForReadyRead(left());
+}
+
+} // namespace
+
+QByteArray SingleInstance::ownActivationToken()
 {
     const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }
 
-/// Passes the token to the game that listens; true once it has answered.
-bool handOver(const QString& socketPath)
-{
-    QLocalSocket socket;
-    socket.connectToServer(socketPath);
-    if (!socket.waitForConnected(static_cast<int>(patience.count())))
-        return false;
-    socket.write(ownActivationToken().replace('\n', ' ') + '\n');
-    return socket.waitForReadyRead(static_cast<int>(patience.count()));
-}
-
-} // namespace
-
-SingleInstance::Claim SingleInstance::claim(const QString& folder)
+SingleInstance::Claim SingleInstance::claim(const QString& folder,
+                                            const QByteArray& activationToken)
 {
     if (folder.isEmpty())
         return Claim::isOurs;
     m_lock = std::make_unique<QLockFile>(folder + QStringLiteral("/lock"));
     m_lock->setStaleLockTime(0);
     const QString socketPath = socketPathFor(folder);
-    if (m_lock->tryLock(0)) {
-        listen(socketPath);
-        return Claim::isOurs;
-    }
-    // A folder that cannot be written holds no other game's lock either.
-    if (m_lock->error() != QLockFile::LockFailedError)
-        return Claim::isOurs;
-    return handOver(socketPath) ? Claim::handedOver : Claim::noAnswer;
+    const QDeadlineTimer deadline(patience);
+    do {
+        if (m_lock->tryLock(0)) {
+            listen(socketPath);
+            return Claim::isOurs;
+        }
+        // A folder that cannot be written holds no other game's lock either.
+        if (m_lock->error() != QLockFile::LockFailedError)
+            return Claim::isOurs;
+        if (handOver(socketPath, activationToken, deadline))
+            return Claim::handedOver;
+        // The other game is not quite there yet, or just going.
+        QThread::msleep(50);
+    } while (!deadline.hasExpired());
+    return Claim::noAnswer;
 }
 
 void SingleInstance::listen(const QString& socketPath)

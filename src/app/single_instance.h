@@ -18,9 +18,14 @@ public:
         noAnswer,   ///< Another one does, and did not answer in time.
     };
 
-    /// Claims `folder` for this process as long as this object lives. Waits up
-    /// to two seconds for the answer of another game.
-    [[nodiscard]] Claim claim(const QString& folder);
+    /// Claims `folder` for this process as long as this object lives. Where
+    /// another game has it, passes it `activationToken` and waits up to two
+    /// seconds for its answer, or for its end.
+    [[nodiscard]] Claim claim(const QString& folder, const QByteArray& activationToken);
+
+    /// What the desktop gave this process to bring a window to the front; may be
+    /// empty. Asked before there is an application, which takes it away.
+    [[nodiscard]] static QByteArray ownActivationToken();
 
 Q_SIGNALS:
     /// Another start was made. `activationToken` is what the desktop gave it to

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,8 +18,10 @@ std::array<int, 2> wakeUp{-1, -1};
 
 void noteSignal(int)
 {
+    const int before = errno; // of whatever was interrupted
     const char byte = 0;
     (void)!write(wakeUp[1], &byte, 1);
+    errno = before;
 }
 
 } // namespace

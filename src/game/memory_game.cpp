@@ -63,12 +63,13 @@ void MemoryGame::updateHeaderForCurrentTurn()
 
 void MemoryGame::showLocalizedAlert(const char* messageKey, const char* informativeTextKey)
 {
-    platform().mainQueue.async([messageKey, informativeTextKey] {
-        platform().alerts.warn(localizedText(messageKey),
-                               informativeTextKey == nullptr ? QString()
-                                                             : localizedText(informativeTextKey),
-                               localizedText("ok"));
-    });
+    platform().mainQueue.async(
+        [message = QByteArray(messageKey), informative = QByteArray(informativeTextKey)] {
+            platform().alerts.warn(localizedText(message.constData()),
+                                   informative.isEmpty() ? QString()
+                                                         : localizedText(informative.constData()),
+                                   localizedText("ok"));
+        });
 }
 
 const CardLayout& MemoryGame::layout() const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "decks/deck_name.h"
 #include "game/memory_card.h"
 #include "game/published.h"
 #include "game/rules/card_layout.h"
@@ -22,10 +23,11 @@ class AudioPlayer;
 ///
 /// There is one for the life of the program. Views read its published members,
 /// listen to changed(), write the names and the mode, and call the operations.
-/// Settings are read at the moment of use. Main thread only; nothing throws.
+/// Settings are read at the moment of use. Main thread only, but where it says
+/// otherwise; nothing throws.
 ///
 /// The operations are spread over one source file per concern: round_setup,
-/// flip_rules, game_end, game_clock, sound_effects, game_highscores,
+/// flip_rules, game_end, game_clock, sound_effects, game_highscores, game_report,
 /// image_sources.
 class MemoryGame : public QObject {
     Q_OBJECT
@@ -53,6 +55,8 @@ public:
     };
     Q_ENUM(Member)
 
+    /// What the name of an album's deck begins with.
+    inline static const QString& photoAlbumPrefix = photoAlbumDeckPrefix();
     /// The longest that a highscore list gets.
     static constexpr std::size_t maxHighscoreEntries = 10;
     /// How long a missed pair stays face up.
@@ -141,7 +145,7 @@ public:
     [[nodiscard]] bool isCheckingPair() const { return m_isCheckingPair; }
     [[nodiscard]] const QTimer* timer() const { return m_timer.get(); }
     [[nodiscard]] bool timerStarted() const { return m_timerStarted; }
-    /// The player of the sound that was started last; none before the first.
+    /// The player of the sound that was asked for last; none before the first.
     [[nodiscard]] const AudioPlayer* audioPlayer() const { return m_audioPlayer; }
 
     // Course of the game.
@@ -178,13 +182,18 @@ public:
     /// failed write it can be tried again.
     void restoreHighscores();
     [[nodiscard]] bool canRestoreHighscores() const { return !m_removedEntries.empty(); }
+    /// Writes every stored result into a page beside the results and opens it in
+    /// the browser. If it cannot be written, an alert says so, at once, and the
+    /// page of an earlier call stays.
+    void openHighscoresHTML();
 
     // Image sources: the pictures to deal from; short or empty on any failure.
     [[nodiscard]] CardPictures loadImagesFromBundle() const;
     [[nodiscard]] CardPictures loadImagesFromPhotoLibrary();
 
-    /// Shows a warning with one button after the current turn of the event
-    /// loop; texts are looked up when it shows. No second key, no second text.
+    /// Shows a warning with one button after the current turn of the main
+    /// thread's event loop; texts are looked up when it shows. No second key, no
+    /// second text. May be called on any thread.
     void showLocalizedAlert(const char* messageKey, const char* informativeTextKey = nullptr);
 
 Q_SIGNALS:
@@ -210,8 +219,11 @@ private:
     void stopTimer();
     void playSound(const QString& name);
 
+    [[nodiscard]] QString highscoreFolderURL() const;
     [[nodiscard]] QString highscoreFileURL() const;
     [[nodiscard]] HighscoreEntries readHighscoreFile() const;
+    [[nodiscard]] HighscoreEntries loadAllHighscoreEntries() const;
+    [[nodiscard]] QString buildHighscoresHTML(const HighscoreEntries& entries) const;
     void appendHighscoreEntry(const HighscoreEntry& entry);
     void updateHighscoreLists(const HighscoreEntries& entries);
     void storeCurrentResult();

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "highscores/highscore_file.h"
 
+#include "platform/atomic_file.h"
 #include "platform/user_folders.h"
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 QString highscoreFolder()
 {
@@ -39,9 +39,5 @@ std::optional<HighscoreEntries> readHighscores(const QString& path)
 
 bool writeHighscores(const QString& path, const HighscoreEntries& entries)
 {
-    QSaveFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(encodeHighscores(entries));
-    return file.commit();
+    return !writeAtomically(path, encodeHighscores(entries));
 }

@@ -11,6 +11,23 @@ using nlohmann::ordered_json;
 
 namespace {
 
+/// The names of the members of a record, in the order in which they are written.
+namespace CodingKeys {
+
+constexpr auto id = "id";
+constexpr auto gameMode = "gameMode";
+constexpr auto playerName = "playerName";
+constexpr auto secondPlayerName = "secondPlayerName";
+constexpr auto winnerName = "winnerName";
+constexpr auto elapsedSeconds = "elapsedSeconds";
+constexpr auto failedAttempts = "failedAttempts";
+constexpr auto firstPlayerScore = "firstPlayerScore";
+constexpr auto secondPlayerScore = "secondPlayerScore";
+constexpr auto amountCards = "amountCards";
+constexpr auto amountRounds = "amountRounds";
+
+} // namespace CodingKeys
+
 /// Reads the members of one object; remembers whether all were as they must be.
 class RecordReader {
 public:
@@ -117,17 +134,17 @@ std::optional<HighscoreEntry> decodeEntry(const json& object)
 {
     RecordReader reader(object);
     HighscoreEntry entry;
-    reader.require("id", entry.id);
-    reader.require("gameMode", entry.gameMode);
-    reader.require("playerName", entry.playerName);
-    reader.allow("secondPlayerName", entry.secondPlayerName);
-    reader.allow("winnerName", entry.winnerName);
-    reader.require("elapsedSeconds", entry.elapsedSeconds);
-    reader.require("failedAttempts", entry.failedAttempts);
-    reader.allow("firstPlayerScore", entry.firstPlayerScore);
-    reader.allow("secondPlayerScore", entry.secondPlayerScore);
-    reader.require("amountCards", entry.amountCards);
-    reader.require("amountRounds", entry.amountRounds);
+    reader.require(CodingKeys::id, entry.id);
+    reader.require(CodingKeys::gameMode, entry.gameMode);
+    reader.require(CodingKeys::playerName, entry.playerName);
+    reader.allow(CodingKeys::secondPlayerName, entry.secondPlayerName);
+    reader.allow(CodingKeys::winnerName, entry.winnerName);
+    reader.require(CodingKeys::elapsedSeconds, entry.elapsedSeconds);
+    reader.require(CodingKeys::failedAttempts, entry.failedAttempts);
+    reader.allow(CodingKeys::firstPlayerScore, entry.firstPlayerScore);
+    reader.allow(CodingKeys::secondPlayerScore, entry.secondPlayerScore);
+    reader.require(CodingKeys::amountCards, entry.amountCards);
+    reader.require(CodingKeys::amountRounds, entry.amountRounds);
     return reader.isComplete() ? std::optional(std::move(entry)) : std::nullopt;
 }
 
@@ -144,17 +161,17 @@ ordered_json encodeEntry(const HighscoreEntry& entry)
         if (value)
             put(name, *value);
     };
-    put("id", entry.id.toString(QUuid::WithoutBraces).toUpper());
-    put("gameMode", entry.gameMode);
-    put("playerName", entry.playerName);
-    putIfPresent("secondPlayerName", entry.secondPlayerName);
-    putIfPresent("winnerName", entry.winnerName);
-    put("elapsedSeconds", entry.elapsedSeconds);
-    put("failedAttempts", entry.failedAttempts);
-    putIfPresent("firstPlayerScore", entry.firstPlayerScore);
-    putIfPresent("secondPlayerScore", entry.secondPlayerScore);
-    put("amountCards", entry.amountCards);
-    put("amountRounds", entry.amountRounds);
+    put(CodingKeys::id, entry.id.toString(QUuid::WithoutBraces).toUpper());
+    put(CodingKeys::gameMode, entry.gameMode);
+    put(CodingKeys::playerName, entry.playerName);
+    putIfPresent(CodingKeys::secondPlayerName, entry.secondPlayerName);
+    putIfPresent(CodingKeys::winnerName, entry.winnerName);
+    put(CodingKeys::elapsedSeconds, entry.elapsedSeconds);
+    put(CodingKeys::failedAttempts, entry.failedAttempts);
+    putIfPresent(CodingKeys::firstPlayerScore, entry.firstPlayerScore);
+    putIfPresent(CodingKeys::secondPlayerScore, entry.secondPlayerScore);
+    put(CodingKeys::amountCards, entry.amountCards);
+    put(CodingKeys::amountRounds, entry.amountRounds);
     return object;
 }
 
@@ -162,6 +179,9 @@ ordered_json encodeEntry(const HighscoreEntry& entry)
 
 std::optional<HighscoreEntries> decodeHighscores(const QByteArray& bytes)
 {
+    // The parser takes a NUL for the end of the text.
+    if (bytes.contains('\0'))
+        return std::nullopt;
     const json array = json::parse(bytes.begin(), bytes.end(), nullptr, false);
     if (!array.is_array())
         return std::nullopt;
@@ -181,7 +201,7 @@ QByteArray encodeHighscores(const HighscoreEntries& entries)
     ordered_json array = ordered_json::array();
     for (const HighscoreEntry& entry : entries)
         array.push_back(encodeEntry(entry));
-    // A text from outside may hold half a surrogate pair; QString turns it into
-    // the replacement character on the way to UTF-8, so dump() cannot fail.
+    // A text from outside may hold half a surrogate pair; QString makes it a
+    // question mark on the way to UTF-8, so dump() cannot fail.
     return QByteArray::fromStdString(array.dump(4)) + '\n';
 }

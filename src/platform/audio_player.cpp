@@ -59,6 +59,12 @@ bool openDevice(const char* driver)
     return false;
 }
 
+void closeFile(SDL_RWops* file)
+{
+    if (file != nullptr)
+        SDL_RWclose(file);
+}
+
 } // namespace
 
 /// The player's thread and what it works on; shared with it, so that a thread
@@ -114,6 +120,8 @@ private:
         }
         lock.unlock();
         close();
+        // SDL clears what it keeps of a thread for threads of its own only.
+        SDL_TLSCleanup();
         lock.lock();
         m_hasEnded = true;
         m_changed.notify_all();
@@ -121,13 +129,17 @@ private:
 
     void play(const Sound& sound)
     {
-        Mix_Chunk* const chunk = Mix_LoadWAV(sound.file.constData());
+        // Closed here: a file of unknown kind is not closed by SDL_mixer 2.6.
+        SDL_RWops* const file = SDL_RWFromFile(sound.file.constData(), "rb");
+        Mix_Chunk* const chunk = file == nullptr ? nullptr : Mix_LoadWAV_RW(file, 0);
         if (chunk == nullptr) {
             sound.failure(QString::fromUtf8(Mix_GetError()));
+            closeFile(file);
             return;
         }
+        closeFile(file);
         Mix_RegisterEffect(m_current, fadeOut, nullptr, &m_channels[std::size_t(m_current)]);
-        m_current = 1 - m_current;
+        m_current = (m_current + 1) % int(m_channels.size());
         release(m_current);
         m_channels[std::size_t(m_current)].chunk = chunk;
         Mix_Volume(m_current, sound.volume);
@@ -145,8 +157,8 @@ private:
 
     void close()
     {
-        release(0);
-        release(1);
+        for (int number = 0; number < int(m_channels.size()); ++number)
+            release(number);
         Mix_CloseAudio();
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
     }
@@ -157,7 +169,7 @@ private:
     bool m_isStopping = false;
     bool m_hasEnded = false;
     std::thread m_thread{};
-    std::array<Channel, 2> m_channels{}; // used by the player's thread only
+    std::array<Channel, 4> m_channels{}; // used by the player's thread only
     int m_current = 0;
 };
 

@@ -2,12 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/main_queue.h"
 
+#include <QThread>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
 
 void MainQueue::async(Task task)
 {
+    if (QThread::currentThread() != thread()) {
+        QMetaObject::invokeMethod(
+            this, [this, task = std::move(task)]() mutable { async(std::move(task)); },
+            Qt::QueuedConnection);
+        return;
+    }
     enqueue({++m_lastTicket, std::move(task)});
 }
 

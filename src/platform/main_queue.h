@@ -22,7 +22,8 @@ public:
     using Task = std::function<void()>;
     using Ticket = std::uint64_t;
 
-    /// Runs `task` once, after the current turn of the event loop.
+    /// Runs `task` once, after the current turn of the main thread's event loop.
+    /// May be called on any thread; everything else on the main thread only.
     void async(Task task);
 
     /// Runs `task` once, `delay` from now at the earliest. The ticket withdraws it.

@@ -9,6 +9,7 @@ class MainQueue;
 class NotificationCenter;
 class PhotoLibrary;
 class UserDefaults;
+class Workspace;
 
 /// The services that the game asks of its surroundings.
 ///
@@ -22,6 +23,7 @@ struct Platform {
     AudioPlayer& audio;
     const PhotoLibrary& photos;
     Alerts& alerts;
+    const Workspace& workspace;
 };
 
 /// The services in use. Calling it before usePlatform() is a programming error.

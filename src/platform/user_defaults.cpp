@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/user_defaults.h"
 
-#include <QVariant>
 #include <cmath>
 #include <limits>
 
@@ -31,24 +30,25 @@ std::int64_t nearestInteger(double number)
 UserDefaults::UserDefaults(const QString& path)
     : m_store(path, QSettings::IniFormat)
 {
+    reread();
 }
 
 bool UserDefaults::contains(QLatin1String key) const
 {
-    return m_store.contains(QString(key));
+    return m_values.contains(QString(key));
 }
 
 std::int64_t UserDefaults::integer(QLatin1String key) const
 {
-    const QVariant value = m_store.value(QString(key));
+    const QVariant stored = value(key);
     bool fits = false;
-    const qint64 number = value.toString().trimmed().toLongLong(&fits);
-    return fits ? number : nearestInteger(finiteNumber(value));
+    const qint64 number = stored.toString().trimmed().toLongLong(&fits);
+    return fits ? number : nearestInteger(finiteNumber(stored));
 }
 
 double UserDefaults::floating(QLatin1String key) const
 {
-    return finiteNumber(m_store.value(QString(key)));
+    return finiteNumber(value(key));
 }
 
 std::optional<QString> UserDefaults::string(QLatin1String key) const
@@ -56,7 +56,7 @@ std::optional<QString> UserDefaults::string(QLatin1String key) const
     if (!contains(key))
         return std::nullopt;
     // INI reads an unquoted comma as a list; a person who wrote it meant a text.
-    return m_store.value(QString(key)).toStringList().join(QStringLiteral(", "));
+    return value(key).toStringList().join(QStringLiteral(", "));
 }
 
 void UserDefaults::setInteger(QLatin1String key, std::int64_t value)
@@ -72,10 +72,14 @@ void UserDefaults::setString(QLatin1String key, const QString& value)
 void UserDefaults::reread()
 {
     m_store.sync();
+    m_values.clear();
+    for (const QString& key : m_store.allKeys())
+        m_values.insert(key, m_store.value(key));
 }
 
 void UserDefaults::write(QLatin1String key, const QVariant& value)
 {
+    m_values.insert(QString(key), value);
     m_store.setValue(QString(key), value);
     m_store.sync();
     Q_EMIT written(QString(key));

@@ -5,15 +5,17 @@
 #include <QObject>
 #include <QSettings>
 #include <QString>
+#include <QVariant>
 #include <cstdint>
 #include <optional>
 
 /// The persistent settings of one user: a key/value store in one INI file.
 ///
-/// Every write is synced at once; nothing here caches a value, so each read
-/// sees the last write. Reads never fail: a missing key has the result named
-/// at each reader. A file that cannot be written keeps its contents, and the
-/// values written live until the process ends.
+/// Every write is synced at once, and each read sees the last write. What other
+/// programs write into the file is seen from the next reread() on, so that no
+/// setting changes in the middle of a game. Reads never fail: a missing key has
+/// the result named at each reader. A file that cannot be written keeps its
+/// contents, and the values written live until the process ends.
 class UserDefaults : public QObject {
     Q_OBJECT
 
@@ -45,7 +47,9 @@ Q_SIGNALS:
     void written(const QString& key);
 
 private:
+    [[nodiscard]] QVariant value(QLatin1String key) const { return m_values.value(QString(key)); }
     void write(QLatin1String key, const QVariant& value);
 
     QSettings m_store;
+    QVariantHash m_values{};
 };

@@ -43,6 +43,22 @@ protected:
     }
 };
 
+bool isMousePress(const QEvent& event)
+{
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
+/// Whether a key is held down, or a press is the second of a double click. The
+/// window is told of such a press twice, as a press and as a double click.
+bool isRepeat(const QEvent& event)
+{
+    if (event.type() == QEvent::KeyPress)
+        return static_cast<const QKeyEvent&>(event).isAutoRepeat();
+    return event.type() == QEvent::MouseButtonDblClick ||
+           static_cast<const QMouseEvent&>(event).flags().testFlag(
+               Qt::MouseEventCreatedDoubleClick);
+}
+
 } // namespace
 
 ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
@@ -237,17 +253,17 @@ void ContentView::giveFocus()
 
 bool ContentView::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress)
-        m_gameBoard->setFocusRingShown(false);
-    if (event->type() != QEvent::KeyPress)
+    const bool isKey = event->type() == QEvent::KeyPress;
+    if (!isKey && !isMousePress(*event))
         return QWidget::eventFilter(watched, event);
 
-    // A key goes to what the game has come to, also if it was not shown yet.
+    // Input acts on what the game has come to, also if it was not shown yet.
     if (watched->isWindowType())
         refreshIfScheduled();
-    m_gameBoard->setFocusRingShown(true);
-    // A key still held when its view went must not act on the next one.
-    if (!static_cast<QKeyEvent*>(event)->isAutoRepeat())
+    m_gameBoard->setFocusRingShown(isKey);
+    // A key still held when its view went, or the second half of a double click,
+    // must not act on the next view.
+    if (!isRepeat(*event))
         m_ignoresRepeats = false;
     return m_ignoresRepeats;
 }

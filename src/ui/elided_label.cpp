@@ -42,8 +42,13 @@ void ElidedLabel::paintEvent(QPaintEvent*)
 
 QString ElidedLabel::shownText() const
 {
-    // A name from an edited file may hold line breaks.
+    // A name may hold line breaks: pasted, or from an edited file.
     QString line = text();
-    line.replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QLatin1Char('\r'), QLatin1Char(' '));
+    for (QChar& character : line) {
+        if (character.category() == QChar::Other_Control ||
+            character.category() == QChar::Separator_Line ||
+            character.category() == QChar::Separator_Paragraph)
+            character = QLatin1Char(' ');
+    }
     return fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width());
 }

@@ -64,8 +64,8 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_resetButton = addButton("reset_highscores", "resetButton", 10);
     connect(m_resetButton, &QPushButton::clicked, &m_game, &MemoryGame::resetHighscores);
 
-    m_reportButton = addButton("open_highscores_html", "reportButton", 6);
-    m_reportButton->setEnabled(false);
+    QPushButton* const reportButton = addButton("open_highscores_html", "reportButton", 6);
+    connect(reportButton, &QPushButton::clicked, &m_game, &MemoryGame::openHighscoresHTML);
 
     m_versusCheckbox = new QCheckBox(controlText("versus_mode"), m_column);
     m_versusCheckbox->setObjectName(QStringLiteral("versusCheckbox"));
@@ -73,6 +73,10 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_rows.push_back(
         {.widget = m_versusCheckbox, .width = ScreenMetrics::leftPanelWidth, .below = 8});
     connect(m_versusCheckbox, &QCheckBox::clicked, &m_game, [this](bool isChecked) {
+        if (m_game.isGameActive()) {
+            m_versusCheckbox->setChecked(m_game.isVersusMode());
+            return;
+        }
         m_game.setIsVersusMode(isChecked);
         // The lists of the other mode are empty until somebody asks for them.
         m_game.reloadHighscoresForCurrentSettings();
@@ -80,7 +84,22 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
 
     m_endButton = addButton("end_game", "endButton", 6);
     setTextColour(m_endButton, QPalette::ButtonText, Colours::red);
-    connect(m_endButton, &QPushButton::clicked, &m_game, &MemoryGame::endGame);
+    // A screen reader may press what is about to go.
+    connect(m_endButton, &QPushButton::clicked, &m_game, [this] {
+        if (m_game.isGameActive())
+            m_game.endGame();
+    });
+
+    // One clean column, as wide as its widest text.
+    int widest = buttonWidth;
+    for (const Row& row : m_rows) {
+        if (qobject_cast<QPushButton*>(row.widget) != nullptr)
+            widest = std::max(widest, row.widget->sizeHint().width());
+    }
+    for (Row& row : m_rows) {
+        if (qobject_cast<QPushButton*>(row.widget) != nullptr)
+            row.width = std::min(widest, ScreenMetrics::leftPanelWidth);
+    }
 
     setWidget(m_column);
     applyColours();
@@ -99,10 +118,7 @@ QPushButton* LeftSidebar::addButton(const char* key, const char* name, int above
     auto* const button = new QPushButton(controlText(key), m_column);
     button->setObjectName(QString::fromLatin1(name));
     button->setFont(systemFont(12, QFont::DemiBold));
-    m_rows.push_back({.widget = button,
-                      .width = std::clamp(button->sizeHint().width(), buttonWidth,
-                                          ScreenMetrics::leftPanelWidth),
-                      .above = above});
+    m_rows.push_back({.widget = button, .width = buttonWidth, .above = above});
     return button;
 }
 

@@ -52,7 +52,6 @@ private:
     ElidedLabel* m_failuresLine;
     HighscoreSection m_highscores;
     QPushButton* m_resetButton = nullptr;
-    QPushButton* m_reportButton = nullptr;
     QCheckBox* m_versusCheckbox = nullptr;
     QPushButton* m_endButton = nullptr;
 };

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int controlHeight = 32;
+
 QLineEdit* makeField(const char* placeholderKey, const char* name, int width, QWidget* form)
 {
     auto* const field = new QLineEdit(form);
@@ -23,6 +25,8 @@ QLineEdit* makeField(const char* placeholderKey, const char* name, int width, QW
     field->setAccessibleName(localizedText(placeholderKey));
     field->setFont(systemFont(18));
     field->setFixedWidth(width);
+    field->setMinimumHeight(controlHeight);
+    field->setTextMargins(3, 0, 3, 0);
     return field;
 }
 
@@ -30,7 +34,7 @@ QPushButton* makeButton(const char* key, const char* name, int width, QWidget* f
 {
     auto* const button = new QPushButton(controlText(key), form);
     button->setObjectName(QString::fromLatin1(name));
-    button->setMinimumSize(width, 32);
+    button->setMinimumSize(width, controlHeight);
     return button;
 }
 

@@ -34,8 +34,8 @@ TestPlatform::~TestPlatform()
 void TestPlatform::usePlatformWith(const QString& resourceFolder)
 {
     m_bundle = std::make_unique<ApplicationBundle>(resourceFolder);
-    m_platform = std::make_unique<Platform>(
-        Platform{*defaults, *m_bundle, mainQueue, notifications, audio, photos, m_alerts});
+    m_platform = std::make_unique<Platform>(Platform{*defaults, *m_bundle, mainQueue, notifications,
+                                                     audio, photos, m_alerts, openedFiles});
     usePlatform(m_platform.get());
 }
 

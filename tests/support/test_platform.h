@@ -10,6 +10,7 @@
 #include "platform/photo_library.h"
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
+#include "platform/workspace.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -26,6 +27,14 @@ public:
     }
 
     QStringList shown{}; ///< "message|informative text|button", oldest first.
+};
+
+/// Remembers what it should open; no other program starts.
+class OpenedFiles : public Workspace {
+public:
+    void openFile(const QString& path) const override { paths << path; }
+
+    mutable QStringList paths{}; ///< Oldest first.
 };
 
 /// A fresh home with the real services in it, and the English texts.
@@ -53,6 +62,7 @@ public:
     AudioPlayer audio{};
     PhotoLibrary photos{};
     AlertLog alertLog{};
+    OpenedFiles openedFiles{};
 
 private:
     void usePlatformWith(const QString& resourceFolder);

@@ -5,10 +5,14 @@
 #include "platform/localized_text.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 
 namespace {
+
+constexpr int informativeWidth = 360;
+constexpr int iconSize = 64;
 
 void showBox(QMessageBox& box, const QString& informativeText, const QString& buttonTitle)
 {
@@ -16,6 +20,9 @@ void showBox(QMessageBox& box, const QString& informativeText, const QString& bu
     // Texts may quote names and paths, and a name may look like markup.
     for (QLabel* const label : box.findChildren<QLabel*>())
         label->setTextFormat(Qt::PlainText);
+    // Else the text is squeezed into the width of the message above it.
+    if (auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+        text->setMinimumWidth(informativeWidth);
     box.addButton(buttonTitle, QMessageBox::AcceptRole);
     box.exec();
 }
@@ -32,7 +39,8 @@ void AlertBox::warn(const QString& messageText, const QString& informativeText,
 
 void showInformation(const QString& title, const QString& text)
 {
-    QMessageBox box(QMessageBox::Information, title, title, QMessageBox::NoButton,
+    QMessageBox box(QMessageBox::NoIcon, QString(), title, QMessageBox::NoButton,
                     QApplication::activeWindow());
+    box.setIconPixmap(QApplication::windowIcon().pixmap(iconSize));
     showBox(box, text, localizedText("ok"));
 }

@@ -11,5 +11,6 @@ public:
               const QString& buttonTitle) override;
 };
 
-/// Shows `text` in a modal box named `title`, with one button; plain text.
+/// Shows `text` under the heading `title` in a modal box with the program's icon
+/// and one button; plain text.
 void showInformation(const QString& title, const QString& text);

@@ -41,6 +41,11 @@ bool isDark(const QPalette& palette)
 Appearance::Appearance()
     : m_ownPalette(QApplication::palette())
 {
+    // Where the desktop brings no palette, ours is easier to read than the style's.
+    if (m_ownPalette == QApplication::style()->standardPalette()) {
+        m_ownPalette = Palettes::light();
+        QApplication::setPalette(m_ownPalette);
+    }
     announce();
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/atomic_file.h"
+
+#include <QSaveFile>
+
+std::optional<QString> writeAtomically(const QString& path, const QByteArray& contents)
+{
+    QSaveFile file(path);
+    // Unbuffered: commit() of Qt 6.4 does not notice that its last flush failed, and a
+    // full disk would leave the file cut short.
+    bool isGood = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    for (qint64 done = 0; isGood && done < contents.size();) {
+        const qint64 written = file.write(contents.constData() + done, contents.size() - done);
+        isGood = written > 0;
+        done += written;
+    }
+    if (isGood && file.commit())
+        return std::nullopt;
+    return file.errorString();
+}

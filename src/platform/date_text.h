@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+/// The identifier of the user's locale, language first: "de_DE", "gsw_CH",
+/// "en_US_POSIX". Named by the first of the languages that also choose the texts,
+/// so that a page and the dates on it are in one language.
+[[nodiscard]] QString currentLocaleIdentifier();
+
+/// `time` in ICU's medium date and short time style for the locale: 25.11.2026,
+/// 22:46 in "de_DE". An unknown locale gives ICU's root format; never fails, but
+/// an installation of ICU without its data gives an empty text.
+[[nodiscard]] QString dateText(const QDateTime& time, const QString& localeIdentifier);

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Writes the page of the results under $XDG_DATA_HOME as the game does, in the language
+// of the environment, and says where it is and how many milliseconds that took.
+#include "game/memory_game.h"
+#include "platform/localized_text.h"
+#include "support/test_platform.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QLocale>
+#include <cstdio>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QByteArray home = qgetenv("XDG_DATA_HOME");
+    TestPlatform platform;
+    qputenv("XDG_DATA_HOME", home);
+    QTranslator texts;
+    if (!loadCatalogue(texts,
+                       ApplicationBundle::ofRunningProgram().resourceFolder().value() +
+                           QStringLiteral("/translations"),
+                       QLocale::system().uiLanguages()))
+        return 1;
+    QCoreApplication::installTranslator(&texts);
+
+    MemoryGame game;
+    QElapsedTimer timer;
+    timer.start();
+    game.openHighscoresHTML();
+    const auto taken = timer.elapsed();
+    for (const QString& path : platform.openedFiles.paths)
+        std::printf("%s %lld\n", qUtf8Printable(path), static_cast<long long>(taken));
+    return platform.openedFiles.paths.size() == 1 ? 0 : 1;
+}
