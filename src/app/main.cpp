@@ -16,6 +16,7 @@
 #include "platform/widgets/alert_box.h"
 #include "platform/widgets/appearance.h"
 #include "platform/workspace.h"
+#include "ui/content_view.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -89,6 +90,8 @@ int main(int argc, char* argv[])
                          delegate.activate();
                      });
     delegate.applicationDidFinishLaunching();
+    QObject::connect(&appearance, &Appearance::changed, delegate.contentView(),
+                     qOverload<>(&QWidget::update));
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();
     return status;

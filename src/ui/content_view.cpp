@@ -78,6 +78,8 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     m_boardArea->setFocusPolicy(Qt::NoFocus);
     m_boardArea->setWidgetResizable(true);
     m_boardArea->setWidget(m_gameBoard);
+    for (QWidget* const above : std::initializer_list<QWidget*>{m_header, m_divider, m_logo})
+        above->raise();
     connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,
             [this](QWidget* tile) { m_boardArea->ensureWidgetVisible(tile, 20, 20); });
 
@@ -110,15 +112,25 @@ void ContentView::layOut()
     m_header->setGeometry(0, 0, width(), headerHeight);
     m_leftSidebar->setGeometry(0, headerHeight, dividerX, height() - headerHeight);
     const QRect main = mainArea();
-    for (QWidget* const content :
-         std::initializer_list<QWidget*>{m_singlePlayerStartView, m_versusStartView, m_boardArea})
-        content->setGeometry(main);
+    m_singlePlayerStartView->setGeometry(main);
+    m_versusStartView->setGeometry(main);
+    arrangeBoard();
     m_invitation->arrange(main, main.top() + (m_game->isVersusMode()
                                                   ? m_versusStartView->controlsTop()
                                                   : m_singlePlayerStartView->controlsTop()));
     m_divider->setGeometry(dividerX, 0, 1, height());
     m_logo->setGeometry(leadingPadding, 22, 180, 180);
+}
+
+void ContentView::arrangeBoard()
+{
     m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
+    // A card of the first row that turns stands out into the strip. A board that
+    // has to scroll stays out of it.
+    const QRect main = mainArea();
+    const bool fits = m_gameBoard->minimumSizeHint().height() <= main.height();
+    m_gameBoard->setTopRoom(fits ? main.top() : 0);
+    m_boardArea->setGeometry(fits ? main.adjusted(0, -main.top(), 0, 0) : main);
 }
 
 void ContentView::resizeEvent(QResizeEvent*)
@@ -162,7 +174,7 @@ void ContentView::refresh()
     m_versusStartView->refresh();
     showLeavingBoard();
     m_gameBoard->refresh();
-    m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
+    arrangeBoard();
     showMainContent();
     m_leftSidebar->refresh();
     m_header->refresh();
@@ -175,11 +187,12 @@ void ContentView::showLeavingBoard()
     if (won.empty() || !isVisible())
         return;
     auto cards = m_gameBoard->leavingCards(won);
-    const QPoint offset = m_gameBoard->mapTo(this, QPoint()) - mainArea().topLeft();
+    const QPoint offset = m_gameBoard->mapTo(this, QPoint()) - m_boardArea->pos();
     for (LeavingBoard::Card& card : cards)
         card.place.translate(offset);
     auto* const leaving = new LeavingBoard(std::move(cards), this);
-    leaving->setGeometry(mainArea());
+    leaving->setGeometry(m_boardArea->geometry());
+    leaving->stackUnder(m_header);
     leaving->show();
     if (m_game->gameCompleted())
         connect(leaving, &LeavingBoard::turned, this, &ContentView::celebrate);

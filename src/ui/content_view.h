@@ -49,6 +49,7 @@ private:
     void scheduleRefresh();
     void refreshIfScheduled();
     void refresh();
+    void arrangeBoard();
     void showMainContent();
     void showLeavingBoard();
     void celebrate();

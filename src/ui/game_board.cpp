@@ -128,6 +128,15 @@ void GameBoard::setGrid(int columns, double cardSize)
     update();
 }
 
+void GameBoard::setTopRoom(int points)
+{
+    if (points == m_topRoom)
+        return;
+    m_topRoom = points;
+    arrange();
+    update();
+}
+
 QSizeF GameBoard::gridSize() const
 {
     const auto length = [this](int cards) {
@@ -150,9 +159,10 @@ void GameBoard::arrange()
     // The grid lies between two spacers that share what is left evenly, unless
     // one of them would fall below its least length.
     const QSizeF grid = gridSize();
-    const double rest = height() - 2 * endPadding - 2 * ScreenMetrics::spacing - grid.height();
+    const double rest =
+        height() - m_topRoom - 2 * endPadding - 2 * ScreenMetrics::spacing - grid.height();
     const double above = std::max<double>(spacerAbove, std::min(rest / 2, rest - spacerBelow));
-    const int top = qRound(endPadding + above + ScreenMetrics::spacing);
+    const int top = m_topRoom + qRound(endPadding + above + ScreenMetrics::spacing);
     const int left = qRound((width() - grid.width()) / 2);
     const double pitch = m_cardSize + ScreenMetrics::spacing;
     for (std::size_t i = 0; i < m_tiles.size(); ++i) {

@@ -30,6 +30,10 @@ public:
     /// Lays the tiles out in `columns` with cards of `cardSize` points.
     void setGrid(int columns, double cardSize);
 
+    /// Leaves the uppermost `points` to what lies there, but for a turning card,
+    /// which may reach into them.
+    void setTopRoom(int points);
+
     /// Gives the focus to the card at `position`, the last one if beyond it.
     void focusCard(std::size_t position);
 
@@ -66,6 +70,7 @@ private:
     std::vector<MemoryCardView*> m_tiles{};
     int m_columns = 1;
     double m_cardSize = 0;
+    int m_topRoom = 0;
     std::size_t m_focusedPosition = 0;
     bool m_isFocusRingShown = false;
     FrameTimer m_frames;
