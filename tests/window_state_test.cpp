@@ -259,6 +259,8 @@ private Q_SLOTS:
                         window.game().cards().begin());
         const QString picture = window.game().cards()[hidden].image.name;
 
+        QTest::qWait(500); // until the cards lie still
+
         // A point of the outline, half way down the left edge.
         QVERIFY(isYellow(pixel(window, found, {1, 0.5})));
         QVERIFY(pixel(window, hidden, {0, 0.5}).saturation() < 20);
@@ -279,6 +281,7 @@ private Q_SLOTS:
         QVERIFY(isYellow(pixel(window, found, {1, 0.5})));
         const QRect before = window.card(found).geometry();
         window.clickCard(otherCard(window.game(), hidden, true));
+        QTest::qWait(500);
         QCOMPARE(pixel(window, found, {40, 0.5}),
                  window.window().palette().color(QPalette::Window));
         QCOMPARE(window.card(found).accessibleName(), place(found) + QStringLiteral("empty"));

@@ -14,7 +14,9 @@
 #include "platform/user_defaults.h"
 #include "platform/user_folders.h"
 #include "platform/widgets/alert_box.h"
+#include "platform/widgets/appearance.h"
 #include "platform/workspace.h"
+#include "ui/content_view.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -79,6 +81,7 @@ int main(int argc, char* argv[])
     }
 
     const Termination termination;
+    const Appearance appearance;
     AppDelegate delegate;
     QObject::connect(&instance, &SingleInstance::startedAgain, &delegate,
                      [&delegate](const QByteArray& token) {
@@ -87,6 +90,8 @@ int main(int argc, char* argv[])
                          delegate.activate();
                      });
     delegate.applicationDidFinishLaunching();
+    QObject::connect(&appearance, &Appearance::changed, delegate.contentView(),
+                     qOverload<>(&QWidget::update));
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();
     return status;

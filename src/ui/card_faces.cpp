@@ -4,12 +4,11 @@
 
 #include "ui/colours.h"
 #include "ui/logo.h"
+#include "ui/transition.h"
 
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace {
@@ -31,9 +30,10 @@ void paintShadow(QPainter& painter, const QRectF& card)
 {
     constexpr qreal opacity = 0.33;
     constexpr qreal deviation = 1.5; // a Gaussian of half the blur radius
+    constexpr qreal reach = 4;
     constexpr qreal step = 0.5;
     painter.setBrush(Qt::NoBrush);
-    for (qreal distance = step / 2; distance < shadowReach; distance += step) {
+    for (qreal distance = step / 2; distance < reach; distance += step) {
         const qreal share = 0.5 * std::erfc(distance / (deviation * std::sqrt(2.0)));
         painter.setPen(QPen(Colours::withOpacity(Qt::black, opacity * share), step));
         painter.drawRoundedRect(card.adjusted(-distance, -distance, distance, distance),
@@ -41,12 +41,23 @@ void paintShadow(QPainter& painter, const QRectF& card)
     }
 }
 
-} // namespace
+/// A transparent pixmap for a face of `edge`, on which `paint` draws it.
+template <class Paint>
+QPixmap facePixmap(qreal edge, qreal devicePixelRatio, Paint paint)
+{
+    const int pixels = static_cast<int>(std::ceil((edge + 2 * margin) * devicePixelRatio));
+    QPixmap pixmap(pixels, pixels);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    paint(painter, QRectF(margin, margin, edge, edge));
+    return pixmap;
+}
 
-void CardFaces::paintBackSide(QPainter& painter, const QRectF& card)
+void paintBackGround(QPainter& painter, const QRectF& card)
 {
     paintShadow(painter, card);
-
     QLinearGradient ground(card.topLeft(), card.bottomRight());
     ground.setColorAt(0, QColor::fromRgbF(0.08F, 0.66F, 0.74F));
     ground.setColorAt(1, QColor::fromRgbF(0.03F, 0.42F, 0.54F));
@@ -54,33 +65,83 @@ void CardFaces::paintBackSide(QPainter& painter, const QRectF& card)
     painter.setBrush(ground);
     painter.drawRoundedRect(card, cornerRadius, cornerRadius);
     strokeOutline(painter, card, Colours::withOpacity(Qt::white, 0.25), 2);
+}
 
+} // namespace
+
+QPixmap CardFaces::backGround(qreal edge, qreal devicePixelRatio)
+{
+    return facePixmap(edge, devicePixelRatio, paintBackGround);
+}
+
+QPixmap CardFaces::backSide(qreal edge, qreal devicePixelRatio)
+{
+    return facePixmap(edge, devicePixelRatio, [](QPainter& painter, const QRectF& card) {
+        paintBackGround(painter, card);
+        paintLogo(painter, card);
+    });
+}
+
+QPixmap CardFaces::frontSide(const QImage& picture, qreal edge, qreal devicePixelRatio)
+{
+    return facePixmap(edge, devicePixelRatio, [&](QPainter& painter, const QRectF& card) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Colours::withOpacity(Colours::gray, 0.12));
+        painter.drawRoundedRect(card, cornerRadius, cornerRadius);
+        if (picture.isNull())
+            return;
+
+        // Scaled at once to the pixels of its frame, then cut by a brush, whose
+        // edge is smooth where that of a clip is not.
+        const QRectF frame = card.adjusted(imageInset, imageInset, -imageInset, -imageInset);
+        const QSize pixels = (frame.size() * devicePixelRatio).toSize();
+        QImage scaled =
+            picture.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+        scaled =
+            scaled.copy((scaled.width() - pixels.width()) / 2,
+                        (scaled.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+        QBrush brush(scaled);
+        brush.setTransform(
+            QTransform::fromTranslate(frame.x(), frame.y())
+                .scale(frame.width() / pixels.width(), frame.height() / pixels.height()));
+        const qreal radius = std::max(0.0, cornerRadius - imageInset);
+        painter.setBrush(brush);
+        painter.drawRoundedRect(frame, radius, radius);
+    });
+}
+
+void CardFaces::paintGround(QPainter& painter, const QRectF& card, const QColor& colour)
+{
+    paintShadow(painter, card);
+    painter.setPen(QPen(colour, 2));
+    painter.setBrush(colour);
+    painter.drawRoundedRect(card, cornerRadius, cornerRadius);
+}
+
+void CardFaces::paintLogo(QPainter& painter, const QRectF& card)
+{
     const qreal edge = 0.35 * std::min(card.width(), card.height());
     const QPixmap logo = logoPixmap(edge, painter.device()->devicePixelRatioF());
     const QSizeF size = logo.deviceIndependentSize();
     painter.drawPixmap(card.center() - QPointF(size.width() / 2, size.height() / 2), logo);
 }
 
-void CardFaces::paintFrontSide(QPainter& painter, const QRectF& card, const QImage& picture,
-                               bool isMatched)
+void CardFaces::paintVeil(QPainter& painter, const QRectF& card, const QColor& colour)
 {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Colours::withOpacity(Colours::gray, 0.12));
+    painter.setBrush(colour);
     painter.drawRoundedRect(card, cornerRadius, cornerRadius);
+}
 
-    const QRectF frame = card.adjusted(imageInset, imageInset, -imageInset, -imageInset);
-    const qreal radius = std::max(0.0, cornerRadius - imageInset);
-    QRectF source(QPointF(), frame.size().scaled(picture.size(), Qt::KeepAspectRatio));
-    source.moveCenter(QRectF(picture.rect()).center());
-    QPainterPath clip;
-    clip.addRoundedRect(frame, radius, radius);
-    painter.save();
-    painter.setClipPath(clip, Qt::IntersectClip);
-    painter.drawImage(frame, picture, source);
-    painter.restore();
-
-    if (isMatched)
-        strokeOutline(painter, card, Colours::withOpacity(Colours::yellow, 0.95), 5);
-    else
-        strokeOutline(painter, card, Colours::withOpacity(Colours::gray, 0.40), 2);
+void CardFaces::paintFrontOutline(QPainter& painter, const QRectF& card, qreal found)
+{
+    // The colours are mixed as the eye would see them laid over each other.
+    const auto share = static_cast<float>(found);
+    const auto channel = [share](float from, float to) { return from + (to - from) * share; };
+    const QColor& gray = Colours::gray;
+    const QColor& yellow = Colours::yellow;
+    const QColor colour = QColor::fromRgbF(
+        channel(gray.redF(), yellow.redF()), channel(gray.greenF(), yellow.greenF()),
+        channel(gray.blueF(), yellow.blueF()), channel(0.40F, 0.95F));
+    strokeOutline(painter, card, colour, mix(2, 5, found));
 }

@@ -2,9 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/content_view.h"
 
+#include "decks/deck_look.h"
+#include "platform/widgets/appearance.h"
+#include "ui/celebration.h"
 #include "ui/colours.h"
 #include "ui/game_board.h"
 #include "ui/header.h"
+#include "ui/invitation.h"
+#include "ui/leaving_board.h"
 #include "ui/left_sidebar.h"
 #include "ui/logo.h"
 #include "ui/screen_metrics.h"
@@ -14,6 +19,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 #include <utility>
@@ -60,6 +66,7 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     , m_game(std::move(game))
     , m_header(new Header(*m_game, this))
     , m_leftSidebar(new LeftSidebar(*m_game, this))
+    , m_invitation(new Invitation(*m_game, this))
     , m_singlePlayerStartView(new SinglePlayerStartView(*m_game, this))
     , m_versusStartView(new VersusStartView(*m_game, this))
     , m_boardArea(new QScrollArea(this))
@@ -71,6 +78,8 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     m_boardArea->setFocusPolicy(Qt::NoFocus);
     m_boardArea->setWidgetResizable(true);
     m_boardArea->setWidget(m_gameBoard);
+    for (QWidget* const above : std::initializer_list<QWidget*>{m_header, m_divider, m_logo})
+        above->raise();
     connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,
             [this](QWidget* tile) { m_boardArea->ensureWidgetVisible(tile, 20, 20); });
 
@@ -91,18 +100,37 @@ QSize ContentView::minimumSizeHint() const
     return {1100, 650};
 }
 
+QRect ContentView::mainArea() const
+{
+    using namespace ScreenMetrics;
+    return {dividerX, headerHeight, width() - dividerX, height() - headerHeight};
+}
+
 void ContentView::layOut()
 {
     using namespace ScreenMetrics;
     m_header->setGeometry(0, 0, width(), headerHeight);
     m_leftSidebar->setGeometry(0, headerHeight, dividerX, height() - headerHeight);
-    const QRect main(dividerX, headerHeight, width() - dividerX, height() - headerHeight);
-    for (QWidget* const content :
-         std::initializer_list<QWidget*>{m_singlePlayerStartView, m_versusStartView, m_boardArea})
-        content->setGeometry(main);
+    const QRect main = mainArea();
+    m_singlePlayerStartView->setGeometry(main);
+    m_versusStartView->setGeometry(main);
+    arrangeBoard();
+    m_invitation->arrange(main, main.top() + (m_game->isVersusMode()
+                                                  ? m_versusStartView->controlsTop()
+                                                  : m_singlePlayerStartView->controlsTop()));
     m_divider->setGeometry(dividerX, 0, 1, height());
     m_logo->setGeometry(leadingPadding, 22, 180, 180);
+}
+
+void ContentView::arrangeBoard()
+{
     m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
+    // A card of the first row that turns stands out into the strip. A board that
+    // has to scroll stays out of it.
+    const QRect main = mainArea();
+    const bool fits = m_gameBoard->minimumSizeHint().height() <= main.height();
+    m_gameBoard->setTopRoom(fits ? main.top() : 0);
+    m_boardArea->setGeometry(fits ? main.adjusted(0, -main.top(), 0, 0) : main);
 }
 
 void ContentView::resizeEvent(QResizeEvent*)
@@ -112,6 +140,7 @@ void ContentView::resizeEvent(QResizeEvent*)
 
 void ContentView::showEvent(QShowEvent*)
 {
+    layOut();
     refresh();
 }
 
@@ -119,6 +148,10 @@ void ContentView::noteChange(MemoryGame::Member member)
 {
     if (member == MemoryGame::Member::isGameActive)
         m_needsFocus = true;
+    // By the time of the refresh another board may lie there.
+    if (member == MemoryGame::Member::cards && m_game->isGameActive() &&
+        std::ranges::all_of(m_game->cards(), &MemoryCard::isMatched))
+        m_wonBoard = m_game->cards();
     scheduleRefresh();
 }
 
@@ -139,11 +172,60 @@ void ContentView::refresh()
 {
     m_singlePlayerStartView->refresh();
     m_versusStartView->refresh();
+    showLeavingBoard();
     m_gameBoard->refresh();
-    m_gameBoard->setGrid(m_game->cardColumns(), calculateCardSize(size()));
+    arrangeBoard();
     showMainContent();
     m_leftSidebar->refresh();
     m_header->refresh();
+    inviteAgain();
+}
+
+void ContentView::showLeavingBoard()
+{
+    const MemoryCards won = std::exchange(m_wonBoard, {});
+    if (won.empty() || !isVisible())
+        return;
+    auto cards = m_gameBoard->leavingCards(won);
+    const QPoint offset = m_gameBoard->mapTo(this, QPoint()) - m_boardArea->pos();
+    for (LeavingBoard::Card& card : cards)
+        card.place.translate(offset);
+    auto* const leaving = new LeavingBoard(std::move(cards), this);
+    leaving->setGeometry(m_boardArea->geometry());
+    leaving->stackUnder(m_header);
+    leaving->show();
+    if (m_game->gameCompleted())
+        connect(leaving, &LeavingBoard::turned, this, &ContentView::celebrate);
+}
+
+void ContentView::celebrate()
+{
+    if (Appearance::isMotionReduced() || m_game->isGameActive() || !m_game->gameCompleted())
+        return;
+    auto* const celebration = new Celebration(deckLook(m_game->cardDeck()), mainArea(), this);
+    celebration->stackUnder(m_invitation);
+    celebration->show();
+}
+
+void ContentView::inviteAgain()
+{
+    const bool isBoard = m_game->isGameActive();
+    const bool isVersusForm = m_game->isVersusMode();
+    const bool isOtherView = isBoard != m_showsBoard || isVersusForm != m_showsVersusForm;
+    m_showsBoard = isBoard;
+    m_showsVersusForm = isVersusForm;
+    if (!isOtherView) {
+        m_invitation->refresh();
+        return;
+    }
+    m_invitation->setVisible(!isBoard);
+    if (isBoard) {
+        m_invitation->dropPictures();
+        delete findChild<Celebration*>();
+    } else {
+        layOut();
+        m_invitation->standReady();
+    }
 }
 
 void ContentView::showMainContent()

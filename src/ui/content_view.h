@@ -8,7 +8,9 @@
 #include <memory>
 
 class GameBoard;
+class Celebration;
 class Header;
+class Invitation;
 class LeftSidebar;
 class LogoView;
 class QScrollArea;
@@ -47,12 +49,18 @@ private:
     void scheduleRefresh();
     void refreshIfScheduled();
     void refresh();
+    void arrangeBoard();
     void showMainContent();
+    void showLeavingBoard();
+    void celebrate();
+    void inviteAgain();
     void giveFocus();
+    [[nodiscard]] QRect mainArea() const;
 
     std::unique_ptr<MemoryGame> m_game;
     Header* m_header;
     LeftSidebar* m_leftSidebar;
+    Invitation* m_invitation;
     SinglePlayerStartView* m_singlePlayerStartView;
     VersusStartView* m_versusStartView;
     QScrollArea* m_boardArea;
@@ -60,7 +68,10 @@ private:
     QWidget* m_divider;
     LogoView* m_logo;
 
+    MemoryCards m_wonBoard{}; ///< As it stood when its last pair was found.
     bool m_isRefreshScheduled = false;
+    bool m_showsBoard = false;
+    bool m_showsVersusForm = false;
     bool m_needsFocus = true;      ///< Another view comes, or a start came to nothing.
     bool m_ignoresRepeats = false; ///< A key that ended one view is still held.
 };

@@ -6,6 +6,7 @@
 #include "platform/localized_text.h"
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
+#include "platform/widgets/appearance.h"
 #include "settings/settings_keys.h"
 #include "ui/colours.h"
 #include "ui/memory_card_view.h"
@@ -33,9 +34,11 @@ constexpr int ringReach = 10;
 GameBoard::GameBoard(MemoryGame& game, QWidget* parent)
     : QWidget(parent)
     , m_game(game)
+    , m_frames(this)
 {
     setObjectName(QStringLiteral("gameBoard"));
     setAccessibleName(localizedText("board_accessible_name"));
+    connect(&m_frames, &FrameTimer::frame, this, &GameBoard::followFrame);
 }
 
 void GameBoard::refresh()
@@ -46,8 +49,40 @@ void GameBoard::refresh()
     if (!isSameBoard)
         replaceTiles(cards);
     const bool removeMatch = platform().defaults.integer(SettingsKeys::RemoveMatch) == 1;
-    for (std::size_t i = 0; i < cards.size(); ++i)
-        m_tiles[i]->show(cards[i], removeMatch, accessibleText(cards[i], i, removeMatch));
+    const bool awaitsTap = m_game.isGameActive() && !m_game.isCheckingPair();
+    for (std::size_t i = 0; i < cards.size(); ++i) {
+        const bool canBeTurned = awaitsTap && !cards[i].isFaceUp && !cards[i].isMatched;
+        m_tiles[i]->show(cards[i], removeMatch, canBeTurned,
+                         accessibleText(cards[i], i, removeMatch));
+    }
+}
+
+std::vector<LeavingBoard::Card> GameBoard::leavingCards(const MemoryCards& cards) const
+{
+    const bool removeMatch = platform().defaults.integer(SettingsKeys::RemoveMatch) == 1;
+    std::vector<LeavingBoard::Card> leaving;
+    for (std::size_t i = 0; i < std::min(cards.size(), m_tiles.size()); ++i) {
+        leaving.push_back({m_tiles[i]->face(), place(*m_tiles[i])});
+        leaving.back().face.setPressed(false);
+        leaving.back().face.show(cards[i], removeMatch);
+    }
+    return leaving;
+}
+
+void GameBoard::followFrame()
+{
+    // What is painted anew is where cards were and where they come to.
+    QRegion moving;
+    for (MemoryCardView* const tile : m_tiles) {
+        if (tile->face().isMoving())
+            moving += tile->face().reach(place(*tile));
+    }
+    update(moving + m_moved);
+    if (moving.isEmpty())
+        m_frames.stop();
+    else
+        m_frames.start();
+    m_moved = moving;
 }
 
 void GameBoard::replaceTiles(const MemoryCards& cards)
@@ -62,6 +97,10 @@ void GameBoard::replaceTiles(const MemoryCards& cards)
         connect(
             tile, &MemoryCardView::navigated, this,
             [this, i](int key, Qt::KeyboardModifiers modifiers) { navigate(i, key, modifiers); });
+        connect(tile, &MemoryCardView::faceChanged, this, [this, tile] {
+            update(tile->face().reach(place(*tile)));
+            followFrame();
+        });
         tile->installEventFilter(this);
         tile->setVisible(true);
         m_tiles.push_back(tile);
@@ -89,6 +128,15 @@ void GameBoard::setGrid(int columns, double cardSize)
     update();
 }
 
+void GameBoard::setTopRoom(int points)
+{
+    if (points == m_topRoom)
+        return;
+    m_topRoom = points;
+    arrange();
+    update();
+}
+
 QSizeF GameBoard::gridSize() const
 {
     const auto length = [this](int cards) {
@@ -111,9 +159,10 @@ void GameBoard::arrange()
     // The grid lies between two spacers that share what is left evenly, unless
     // one of them would fall below its least length.
     const QSizeF grid = gridSize();
-    const double rest = height() - 2 * endPadding - 2 * ScreenMetrics::spacing - grid.height();
+    const double rest =
+        height() - m_topRoom - 2 * endPadding - 2 * ScreenMetrics::spacing - grid.height();
     const double above = std::max<double>(spacerAbove, std::min(rest / 2, rest - spacerBelow));
-    const int top = qRound(endPadding + above + ScreenMetrics::spacing);
+    const int top = m_topRoom + qRound(endPadding + above + ScreenMetrics::spacing);
     const int left = qRound((width() - grid.width()) / 2);
     const double pitch = m_cardSize + ScreenMetrics::spacing;
     for (std::size_t i = 0; i < m_tiles.size(); ++i) {
@@ -133,20 +182,32 @@ void GameBoard::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    for (MemoryCardView* const tile : m_tiles) {
-        const QRect reach = tile->geometry().adjusted(-ringReach, -ringReach, ringReach, ringReach);
-        if (event->region().intersects(reach))
-            tile->paint(painter, place(*tile));
+    // A turning card comes before its neighbours, and before the ring.
+    for (const bool areTurning : {false, true}) {
+        if (areTurning)
+            paintFocusRing(painter);
+        for (MemoryCardView* const tile : m_tiles) {
+            TurningCard& face = tile->face();
+            if (face.isTurning() == areTurning &&
+                event->region().intersects(face.reach(place(*tile))))
+                face.paint(painter, place(*tile));
+        }
     }
-    if (m_isFocusRingShown && m_focusedPosition < m_tiles.size() &&
-        m_tiles[m_focusedPosition]->hasFocus()) {
-        painter.setPen(QPen(Colours::focusRing(palette()), ringWidth));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(
-            place(*m_tiles[m_focusedPosition])
-                .adjusted(-ringDistance, -ringDistance, ringDistance, ringDistance),
-            ringRadius, ringRadius);
-    }
+}
+
+void GameBoard::paintFocusRing(QPainter& painter) const
+{
+    if (!m_isFocusRingShown || m_focusedPosition >= m_tiles.size() ||
+        !m_tiles[m_focusedPosition]->hasFocus())
+        return;
+    const bool isContrastHigh = Appearance::isContrastHigh();
+    painter.setPen(
+        QPen(isContrastHigh ? palette().color(QPalette::WindowText) : Colours::focusRing(palette()),
+             isContrastHigh ? ringWidth + 1 : ringWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(place(*m_tiles[m_focusedPosition])
+                                .adjusted(-ringDistance, -ringDistance, ringDistance, ringDistance),
+                            ringRadius, ringRadius);
 }
 
 void GameBoard::resizeEvent(QResizeEvent*)

@@ -3,15 +3,17 @@
 #pragma once
 
 #include "game/memory_card.h"
+#include "ui/frame_clock.h"
+#include "ui/leaving_board.h"
 
-#include <QPointF>
-#include <QUuid>
+#include <QRegion>
 #include <QWidget>
 #include <cstddef>
 #include <vector>
 
 class MemoryCardView;
 class MemoryGame;
+class QPainter;
 
 /// The grid of cards. Owns one tile per card and keeps it as long as the card
 /// lies on the board; paints all of them, and the focus ring.
@@ -28,11 +30,19 @@ public:
     /// Lays the tiles out in `columns` with cards of `cardSize` points.
     void setGrid(int columns, double cardSize);
 
+    /// Leaves the uppermost `points` to what lies there, but for a turning card,
+    /// which may reach into them.
+    void setTopRoom(int points);
+
     /// Gives the focus to the card at `position`, the last one if beyond it.
     void focusCard(std::size_t position);
 
     /// Whether the focused card wears its ring: after a key, not after a press.
     void setFocusRingShown(bool isShown);
+
+    /// The cards as they lie, on their way to the state `cards`, for a picture of
+    /// a board that has been won; places count from this widget.
+    [[nodiscard]] std::vector<LeavingBoard::Card> leavingCards(const MemoryCards& cards) const;
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -47,7 +57,9 @@ protected:
 
 private:
     void replaceTiles(const MemoryCards& cards);
+    void followFrame();
     void arrange();
+    void paintFocusRing(QPainter& painter) const;
     [[nodiscard]] QSizeF gridSize() const;
     [[nodiscard]] QRectF place(const MemoryCardView& tile) const;
     [[nodiscard]] QString accessibleText(const MemoryCard& card, std::size_t position,
@@ -58,6 +70,9 @@ private:
     std::vector<MemoryCardView*> m_tiles{};
     int m_columns = 1;
     double m_cardSize = 0;
+    int m_topRoom = 0;
     std::size_t m_focusedPosition = 0;
     bool m_isFocusRingShown = false;
+    FrameTimer m_frames;
+    QRegion m_moved{}; ///< Where moving cards were painted last.
 };

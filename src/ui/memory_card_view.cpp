@@ -2,45 +2,45 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/memory_card_view.h"
 
-#include "ui/card_faces.h"
-
+#include <QEvent>
 #include <QKeyEvent>
-#include <QPainter>
 
 MemoryCardView::MemoryCardView(const MemoryCard& card, QWidget* parent)
     : QAbstractButton(parent)
-    , m_card(card)
+    , m_face(card)
 {
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    connect(this, &QAbstractButton::pressed, this, &MemoryCardView::followPointer);
+    connect(this, &QAbstractButton::released, this, &MemoryCardView::followPointer);
 }
 
-void MemoryCardView::show(const MemoryCard& card, bool removeMatch, const QString& name)
+void MemoryCardView::show(const MemoryCard& card, bool removeMatch, bool canBeTurned,
+                          const QString& name)
 {
     if (accessibleName() != name)
         setAccessibleName(name);
-    const bool isChanged = card.isFaceUp != m_card.isFaceUp || card.isMatched != m_card.isMatched ||
-                           removeMatch != m_removeMatch;
-    if (!isChanged)
-        return;
-    m_card = card;
-    m_removeMatch = removeMatch;
-    constexpr int reach = static_cast<int>(CardFaces::shadowReach);
-    parentWidget()->update(geometry().adjusted(-reach, -reach, reach + 1, reach + 1));
+    m_canBeTurned = canBeTurned;
+    if (m_face.show(card, removeMatch))
+        Q_EMIT faceChanged();
+    followPointer();
 }
 
-void MemoryCardView::paint(QPainter& painter, const QRectF& place)
+void MemoryCardView::followPointer()
 {
-    const bool isOpen = m_card.isFaceUp || m_card.isMatched;
-    if (m_card.isMatched && m_removeMatch)
-        return;
-    if (!isOpen) {
-        CardFaces::paintBackSide(painter, place);
-        return;
-    }
-    const QSizeF frame = place.size() - QSizeF(2, 2) * CardFaces::imageInset;
-    CardFaces::paintFrontSide(painter, place,
-                              scaledPicture(frame, painter.device()->devicePixelRatioF()),
-                              m_card.isMatched);
+    const bool isPressNew = m_face.setPressed(m_canBeTurned && isDown());
+    const bool isHoverNew = m_face.setHovered(m_canBeTurned && underMouse());
+    if (isPressNew || isHoverNew)
+        Q_EMIT faceChanged();
+}
+
+bool MemoryCardView::event(QEvent* event)
+{
+    const bool isHandled = QAbstractButton::event(event);
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave ||
+        event->type() == QEvent::MouseMove)
+        followPointer();
+    return isHandled;
 }
 
 void MemoryCardView::keyPressEvent(QKeyEvent* event)
@@ -66,13 +66,3 @@ void MemoryCardView::keyPressEvent(QKeyEvent* event)
 }
 
 void MemoryCardView::paintEvent(QPaintEvent*) {}
-
-const QImage& MemoryCardView::scaledPicture(QSizeF size, qreal devicePixelRatio)
-{
-    const QSize pixels = (size * devicePixelRatio).toSize();
-    const QSize wanted = m_card.image.image.size().scaled(pixels, Qt::KeepAspectRatioByExpanding);
-    if (m_scaled.size() != wanted)
-        m_scaled =
-            m_card.image.image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return m_scaled;
-}

@@ -82,6 +82,12 @@ void SinglePlayerStartView::focusField()
     m_playerName->setFocus(Qt::OtherFocusReason);
 }
 
+int SinglePlayerStartView::controlsTop() const
+{
+    layout()->setGeometry(rect()); // a hidden form is not laid out by itself
+    return m_playerName->y();
+}
+
 VersusStartView::VersusStartView(MemoryGame& game, QWidget* parent)
     : QWidget(parent)
     , m_game(game)
@@ -107,4 +113,10 @@ void VersusStartView::focusField()
     const bool isSecondMissing = !trimmedText(m_game.playerOneName()).isEmpty() &&
                                  trimmedText(m_game.playerTwoName()).isEmpty();
     (isSecondMissing ? m_playerTwoName : m_playerOneName)->setFocus(Qt::OtherFocusReason);
+}
+
+int VersusStartView::controlsTop() const
+{
+    layout()->setGeometry(rect()); // a hidden form is not laid out by itself
+    return m_playerOneName->y();
 }

@@ -17,6 +17,8 @@ public:
 
     void refresh();
     void focusField();
+    /// Where its topmost control begins, in this widget's points.
+    [[nodiscard]] int controlsTop() const;
 
 private:
     MemoryGame& m_game;
@@ -34,6 +36,8 @@ public:
     void refresh();
     /// Gives the focus to the first empty field, to the first if none is empty.
     void focusField();
+    /// Where its topmost control begins, in this widget's points.
+    [[nodiscard]] int controlsTop() const;
 
 private:
     MemoryGame& m_game;

@@ -24,7 +24,10 @@
 class GameWindow {
 public:
     /// `prepare` may write settings and results before the launch.
-    explicit GameWindow(const std::function<void(TestPlatform&)>& prepare = [](TestPlatform&) {})
+    explicit GameWindow(
+        const std::function<void(TestPlatform&)>& prepare = [](TestPlatform&) {},
+        const QString& language = QStringLiteral("en"))
+        : platform(&alerts, language)
     {
         platform.useResources(resources());
         makeDeck(resources(), QStringLiteral("Cyberpunk"), 24);
@@ -102,7 +105,7 @@ public:
     }
 
     AlertBox alerts{};
-    TestPlatform platform{&alerts};
+    TestPlatform platform;
     AppDelegate delegate{};
 };
 

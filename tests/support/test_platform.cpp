@@ -11,7 +11,7 @@
 #include <QDir>
 #include <QFile>
 
-TestPlatform::TestPlatform(Alerts* alerts)
+TestPlatform::TestPlatform(Alerts* alerts, const QString& language)
     : m_alerts(alerts == nullptr ? alertLog : *alerts)
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
@@ -21,8 +21,8 @@ TestPlatform::TestPlatform(Alerts* alerts)
     createDefaultSettings(*defaults);
     defaults->setInteger(SettingsKeys::PlaySounds, 0);
     if (!loadCatalogue(m_texts, *m_bundle->resourceFolder() + QStringLiteral("/translations"),
-                       {QStringLiteral("en")}))
-        qFatal("the English texts are missing");
+                       {language}))
+        qFatal("the texts are missing");
     QCoreApplication::installTranslator(&m_texts);
 }
 
@@ -42,6 +42,11 @@ void TestPlatform::usePlatformWith(const QString& resourceFolder)
 void TestPlatform::useResources(const QString& resourceFolder)
 {
     usePlatformWith(resourceFolder);
+}
+
+void TestPlatform::useBuiltResources()
+{
+    usePlatformWith(ApplicationBundle::ofRunningProgram().resourceFolder().value());
 }
 
 QString TestPlatform::highscoreFile() const

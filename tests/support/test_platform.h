@@ -37,18 +37,22 @@ public:
     mutable QStringList paths{}; ///< Oldest first.
 };
 
-/// A fresh home with the real services in it, and the English texts.
+/// A fresh home with the real services in it, and English texts if not told
+/// otherwise.
 ///
 /// Settings and results are real files under a temporary folder; decks, sounds
 /// and texts are those of the build. Sounds are off.
 class TestPlatform {
 public:
     /// `alerts` shows the alerts; without one they go to alertLog.
-    explicit TestPlatform(Alerts* alerts = nullptr);
+    explicit TestPlatform(Alerts* alerts = nullptr, const QString& language = QStringLiteral("en"));
     ~TestPlatform();
 
     /// Replaces the resources by those of `resourceFolder`.
     void useResources(const QString& resourceFolder);
+
+    /// Takes the decks, sounds and texts of the build again.
+    void useBuiltResources();
 
     /// The file of the results, whether it is there or not.
     [[nodiscard]] QString highscoreFile() const;

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/frame_clock.h"
+#include "ui/turning_card.h"
+
+#include <QWidget>
+#include <vector>
+
+/// A won board on its way out: its last card turns, then it fades over what has
+/// replaced it. A picture only; any press or key ends it and goes on to what
+/// lies beneath. Deletes itself.
+class LeavingBoard : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Card {
+        TurningCard face;
+        QRectF place{}; ///< In this widget's points.
+    };
+
+    LeavingBoard(std::vector<Card> cards, QWidget* parent);
+
+Q_SIGNALS:
+    /// The last card lies still, and the board begins to fade or is gone.
+    void turned();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void followTime();
+    void end();
+
+    std::vector<Card> m_cards;
+    FrameTimer m_frames;
+    double m_begin;
+    bool m_hasTurned = false;
+};

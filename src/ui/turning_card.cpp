@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/turning_card.h"
+
+#include "platform/widgets/appearance.h"
+#include "ui/card_faces.h"
+#include "ui/colours.h"
+
+#include <QPainter>
+#include <QPixmapCache>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+constexpr double hoverInSeconds = 0.12;
+constexpr double hoverOutSeconds = 0.18;
+constexpr double releaseSeconds = 0.10;
+constexpr double pressedScale = 0.97;
+constexpr double hoverVeil = 0.10;
+constexpr double pressVeil = 0.16;
+
+double seconds(double full)
+{
+    return Appearance::isMotionReduced() ? 0 : full;
+}
+
+/// A face of the back, drawn once for all cards of a size.
+template <class Draw>
+QPixmap sharedFace(const char* name, qreal edge, qreal devicePixelRatio, Draw draw)
+{
+    const QString key =
+        QStringLiteral("%1 %2 %3").arg(QString::fromLatin1(name)).arg(edge).arg(devicePixelRatio);
+    QPixmap face;
+    if (!QPixmapCache::find(key, &face)) {
+        face = draw(edge, devicePixelRatio);
+        QPixmapCache::insert(key, face);
+    }
+    return face;
+}
+
+} // namespace
+
+QTransform turnProjection(const QRectF& place, double degrees)
+{
+    const double angle = degrees * std::numbers::pi / 180;
+    const double distance = std::max(place.width(), place.height());
+    const QPointF centre = place.center();
+    // A point x beside the axis comes to x cos, and nearer by x sin.
+    const QTransform turned(std::cos(angle), 0, -std::sin(angle) / distance, 0, 1, 0, 0, 0, 1);
+    return QTransform::fromTranslate(-centre.x(), -centre.y()) * turned *
+           QTransform::fromTranslate(centre.x(), centre.y());
+}
+
+TurningCard::TurningCard(const MemoryCard& card)
+    : m_card(card)
+{
+}
+
+bool TurningCard::show(const MemoryCard& card, bool removeMatch)
+{
+    m_card = card;
+    return turnTo(cardLook(card.isFaceUp, card.isMatched, removeMatch));
+}
+
+bool TurningCard::turnTo(const CardLook& look, double delay)
+{
+    return m_look.moveTo(look, seconds(cardTurnSeconds), easeInOut, delay);
+}
+
+bool TurningCard::setHovered(bool isHovered)
+{
+    return m_hover.moveTo(isHovered ? 1.0 : 0.0,
+                          seconds(isHovered ? hoverInSeconds : hoverOutSeconds), easeOut);
+}
+
+bool TurningCard::setPressed(bool isPressed)
+{
+    return m_press.moveTo(isPressed ? 1.0 : 0.0, isPressed ? 0 : seconds(releaseSeconds), easeOut);
+}
+
+bool TurningCard::isMoving() const
+{
+    return m_look.isMoving() || m_hover.isMoving() || m_press.isMoving();
+}
+
+bool TurningCard::isTurning() const
+{
+    return m_look.isMoving();
+}
+
+QRect TurningCard::reach(const QRectF& place) const
+{
+    const QRectF face = place.adjusted(-CardFaces::margin, -CardFaces::margin, CardFaces::margin,
+                                       CardFaces::margin);
+    const double turn = look().turn;
+    if (turn <= 0 || turn >= 180)
+        return face.toAlignedRect();
+    // Turned by more than a right angle the other side is nearer, by as much.
+    return turnProjection(place, turn)
+        .mapRect(face)
+        .united(turnProjection(place, turn - 180).mapRect(face))
+        .toAlignedRect();
+}
+
+void TurningCard::paint(QPainter& painter, const QRectF& place)
+{
+    const CardLook now = look();
+    if (now.overall <= 0)
+        return;
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    prepareFaces(place.width(), ratio);
+    painter.save();
+    const double scale = Appearance::isMotionReduced() ? 1 : mix(1, pressedScale, m_press.value());
+    if (scale < 1) {
+        const QPointF centre = place.center();
+        painter.setTransform(QTransform::fromTranslate(-centre.x(), -centre.y()) *
+                                 QTransform::fromScale(scale, scale) *
+                                 QTransform::fromTranslate(centre.x(), centre.y()),
+                             true);
+    }
+    const QTransform flat = painter.transform();
+    const bool isEdgeOn = std::abs(std::cos(now.turn * std::numbers::pi / 180)) < 0.002;
+    if (now.back > 0 && !isEdgeOn) {
+        painter.setTransform(turnProjection(place, now.turn) * flat);
+        painter.setOpacity(now.overall * now.back);
+        paintBack(painter, place, ratio);
+    }
+    if (now.front > 0 && !isEdgeOn) {
+        painter.setTransform(turnProjection(place, now.turn - 180) * flat);
+        painter.setOpacity(now.overall * now.front);
+        paintFront(painter, place, ratio, now.found);
+    }
+    painter.restore();
+}
+
+void TurningCard::prepareFaces(qreal edge, qreal devicePixelRatio)
+{
+    if (edge == m_edge && devicePixelRatio == m_devicePixelRatio)
+        return;
+    m_edge = edge;
+    m_devicePixelRatio = devicePixelRatio;
+    m_front = QPixmap();
+}
+
+void TurningCard::paintBack(QPainter& painter, const QRectF& place, qreal devicePixelRatio)
+{
+    const QPointF corner = place.topLeft() - QPointF(CardFaces::margin, CardFaces::margin);
+    const double veil = m_hover.value() + m_press.value();
+    if (veil <= 0) {
+        painter.drawPixmap(corner,
+                           sharedFace("back", m_edge, devicePixelRatio, CardFaces::backSide));
+        return;
+    }
+    painter.drawPixmap(corner,
+                       sharedFace("ground", m_edge, devicePixelRatio, CardFaces::backGround));
+    CardFaces::paintVeil(painter, place,
+                         Colours::withOpacity(Qt::white, hoverVeil * m_hover.value()));
+    CardFaces::paintVeil(painter, place,
+                         Colours::withOpacity(Qt::black, pressVeil * m_press.value()));
+    CardFaces::paintLogo(painter, place);
+}
+
+void TurningCard::paintFront(QPainter& painter, const QRectF& place, qreal devicePixelRatio,
+                             qreal found)
+{
+    if (m_front.isNull())
+        m_front = CardFaces::frontSide(m_card.image.image, m_edge, devicePixelRatio);
+    if (m_ground.isValid())
+        CardFaces::paintGround(painter, place, m_ground);
+    painter.drawPixmap(place.topLeft() - QPointF(CardFaces::margin, CardFaces::margin), m_front);
+    CardFaces::paintFrontOutline(painter, place, found);
+}

@@ -1,0 +1,243 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What moves: the turn of a card, the board that leaves, the fan above the form,
+// the celebration. The test tells the time.
+#include "platform/widgets/appearance.h"
+#include "settings/settings_keys.h"
+#include "support/game_window.h"
+#include "ui/card_faces.h"
+#include "ui/celebration.h"
+#include "ui/invitation.h"
+#include "ui/leaving_board.h"
+#include "ui/turning_card.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <numbers>
+
+class MotionTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_now = 100;
+        setFrameTimeSource([this] { return m_now; });
+    }
+    void cleanup() { setFrameTimeSource({}); }
+
+    void theLookFollowsFromTheState_data()
+    {
+        QTest::addColumn<bool>("isFaceUp");
+        QTest::addColumn<bool>("isMatched");
+        QTest::addColumn<bool>("removeMatch");
+        QTest::addColumn<QList<double>>("look"); // turn, back, front, overall
+
+        QTest::newRow("hidden") << false << false << true << QList<double>{0, 1, 0, 1};
+        QTest::newRow("turned") << true << false << true << QList<double>{180, 0, 1, 1};
+        QTest::newRow("found") << true << true << false << QList<double>{180, 0, 1, 1};
+        QTest::newRow("found, not face up")
+            << false << true << false << QList<double>{180, 0, 1, 1};
+        QTest::newRow("found and removed") << true << true << true << QList<double>{0, 0, 0, 0};
+    }
+
+    void theLookFollowsFromTheState()
+    {
+        QFETCH(bool, isFaceUp);
+        QFETCH(bool, isMatched);
+        QFETCH(bool, removeMatch);
+        const CardLook look = cardLook(isFaceUp, isMatched, removeMatch);
+        QTEST((QList<double>{look.turn, look.back, look.front, look.overall}), "look");
+        QCOMPARE(look.found, isMatched ? 1.0 : 0.0);
+    }
+
+    void aTurnTakesItsTimeAndCanBeOvertaken()
+    {
+        TurningCard card{MemoryCard()};
+        MemoryCard turned;
+        turned.isFaceUp = true;
+        QVERIFY(card.show(turned, false));
+        QVERIFY(!card.show(turned, false));
+        m_now += 0.1;
+        QVERIFY(card.look().turn > 0 && card.look().turn < 45); // slow at first
+        m_now += 0.125;
+        QVERIFY(qAbs(card.look().turn - 90) < 0.1);
+        QVERIFY(qAbs(card.look().back - 0.5) < 0.01 && qAbs(card.look().front - 0.5) < 0.01);
+
+        QVERIFY(card.show(MemoryCard(), false));
+        QVERIFY(qAbs(card.look().turn - 90) < 0.1); // goes on from where it is
+        m_now += 0.449;
+        QVERIFY(card.isTurning());
+        m_now += 0.002;
+        QVERIFY(!card.isTurning() && card.look() == CardLook());
+    }
+
+    void theTurnIsATruePerspective()
+    {
+        const QRectF place(0, 0, 100, 100);
+        const QTransform turned = turnProjection(place, 60);
+        // The side that comes nearer grows, the other shrinks; the axis stays.
+        const double sine = std::sin(std::numbers::pi / 3);
+        QCOMPARE(turned.map(QPointF(50, 0)), QPointF(50, 0));
+        QVERIFY(qAbs(turned.map(QPointF(100, 0)).y() - (50 - 50 / (1 - 0.5 * sine))) < 0.001);
+        QVERIFY(qAbs(turned.map(QPointF(0, 0)).y() - (50 - 50 / (1 + 0.5 * sine))) < 0.001);
+        // A card paints nothing beyond what it says.
+        const TestPlatform platform; // has the logo
+        TurningCard card{MemoryCard()};
+        card.standAs({.turn = 60, .back = 0.5, .front = 0.5});
+        QImage canvas(400, 400, QImage::Format_ARGB32_Premultiplied);
+        canvas.fill(Qt::white);
+        const QRectF middle(150, 150, 100, 100);
+        {
+            QPainter painter(&canvas);
+            card.paint(painter, middle);
+        }
+        const QRect reach = card.reach(middle);
+        for (int y = 0; y < 400; ++y) {
+            for (int x = 0; x < 400; ++x) {
+                if (!reach.contains(x, y))
+                    QCOMPARE(canvas.pixelColor(x, y), QColor(Qt::white));
+            }
+        }
+        QVERIFY(canvas.pixelColor(200, 200) != QColor(Qt::white));
+    }
+
+    void aWonBoardLeavesAndPairsSink()
+    {
+        GameWindow window;
+        winAllBut(window, 1);
+        window.clickPair();
+        QVERIFY(!window.game().isGameActive());
+        QVERIFY(child<LeavingBoard>(window));
+        QVERIFY(window.child<QLineEdit>(QStringLiteral("playerName")).isVisible());
+
+        m_now += 0.44;
+        settle();
+        QVERIFY(child<LeavingBoard>(window) && !child<Celebration>(window));
+        m_now += 0.02;
+        settle();
+        QVERIFY(child<LeavingBoard>(window) && child<Celebration>(window));
+        m_now += 0.25;
+        settle();
+        QVERIFY(!child<LeavingBoard>(window) && child<Celebration>(window));
+        m_now += 1.0;
+        settle();
+        QVERIFY(!child<Celebration>(window));
+    }
+
+    void aKeyEndsTheLeavingBoardAndIsPassedOn()
+    {
+        GameWindow window;
+        winAllBut(window, 1);
+        window.clickPair();
+        QVERIFY(child<LeavingBoard>(window));
+        window.type(QStringLiteral("a"));
+        settle();
+        QVERIFY(!child<LeavingBoard>(window));
+        QCOMPARE(window.game().playerName(), QStringLiteral("Anna"));
+        // A game that starts sends the celebration away.
+        QVERIFY(child<Celebration>(window));
+        window.press(Qt::Key_Return);
+        settle();
+        QVERIFY(window.game().isGameActive() && !child<Celebration>(window));
+    }
+
+    void anEndedGameIsNotCelebrated()
+    {
+        GameWindow window;
+        winAllBut(window, 2);
+        window.click(window.child<QPushButton>(QStringLiteral("endButton")));
+        QVERIFY(!child<LeavingBoard>(window));
+        m_now += 1;
+        settle();
+        QVERIFY(!child<Celebration>(window));
+    }
+
+    void aWonRoundLeavesWithoutACelebration()
+    {
+        GameWindow window([](TestPlatform& platform) {
+            platform.defaults->setInteger(SettingsKeys::AmountRounds, 2);
+        });
+        winAllBut(window, 1);
+        window.clickPair();
+        QCOMPARE(window.game().currentRound(), 2);
+        QVERIFY(child<LeavingBoard>(window));
+        // The board below can be played at once.
+        window.clickCard(0);
+        settle();
+        QVERIFY(!child<LeavingBoard>(window) && window.game().cards()[0].isFaceUp);
+        m_now += 1;
+        settle();
+        QVERIFY(!child<Celebration>(window));
+    }
+
+    void theFanAnswersANameAndFollowsItsDeck()
+    {
+        GameWindow window([](TestPlatform& platform) { platform.useBuiltResources(); });
+        Invitation& fan = window.child<Invitation>(QStringLiteral("invitation"));
+        QVERIFY(fan.isVisible() && fan.testAttribute(Qt::WA_TransparentForMouseEvents));
+        const QPoint form = window.child<QLineEdit>(QStringLiteral("playerName")).pos();
+        settle();
+        m_now += 2; // all pictures have turned
+        settle();
+        const QImage atRest = fan.grab().toImage();
+        window.type(QStringLiteral("Ann"));
+        settle();
+        m_now += 0.5;
+        settle();
+        const QImage answered = fan.grab().toImage();
+        QVERIFY(yellowPixels(atRest) < yellowPixels(answered) - 500);
+        window.press(Qt::Key_Backspace);
+        window.press(Qt::Key_Backspace);
+        window.press(Qt::Key_Backspace);
+        settle();
+        m_now += 0.5;
+        settle();
+        QCOMPARE(fan.grab().toImage(), atRest);
+
+        window.platform.defaults->setString(SettingsKeys::CardDeck, QStringLiteral("Kids"));
+        settle();
+        m_now += 2;
+        settle();
+        QVERIFY(fan.grab().toImage() != atRest);
+        QCOMPARE(window.child<QLineEdit>(QStringLiteral("playerName")).pos(), form);
+        window.startGame();
+        QVERIFY(!fan.isVisible());
+    }
+
+private:
+    template <class Widget>
+    static bool child(GameWindow& window)
+    {
+        const auto* const found = window.window().findChild<Widget*>();
+        return found != nullptr && found->isVisible();
+    }
+
+    /// Lets frames come and deferred deletions be done.
+    static void settle() { QTest::qWait(60); }
+
+    static void winAllBut(GameWindow& window, int pairs)
+    {
+        window.startGame();
+        for (int pair = 0; pair < 6 - pairs; ++pair)
+            window.clickPair();
+    }
+
+    static int yellowPixels(const QImage& image)
+    {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor colour = image.pixelColor(x, y);
+                count += colour.red() > 245 && qAbs(colour.green() - 205) < 8 && colour.blue() < 25;
+            }
+        }
+        return count;
+    }
+
+    double m_now = 0;
+};
+
+QTEST_MAIN(MotionTest)
+#include "motion_test.moc"
