@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 
@@ -165,8 +167,40 @@ private Q_SLOTS:
         const QPushButton& end = window.child<QPushButton>(QStringLiteral("endButton"));
         QVERIFY(window.window().rect().contains(
             QRect(end.mapTo(&window.window(), QPoint()), end.size())));
-        QVERIFY(window.child<QLabel>(QStringLiteral("bestFailures5")).geometry().bottom() <
-                window.child<QPushButton>(QStringLiteral("resetButton")).y());
+        const QLabel& last = window.child<QLabel>(QStringLiteral("bestFailures5"));
+        const QPushButton& reset = window.child<QPushButton>(QStringLiteral("resetButton"));
+        QVERIFY(last.mapTo(&window.window(), QPoint(0, last.height())).y() <=
+                reset.mapTo(&window.window(), QPoint()).y());
+    }
+
+    void aLowWindowScrollsTheListsAndAVeryLowOneEverything_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::addColumn<bool>("buttonsAreSeen");
+        QTest::newRow("low") << 620 << true;
+        QTest::newRow("very low") << 500 << false;
+    }
+
+    void aLowWindowScrollsTheListsAndAVeryLowOneEverything()
+    {
+        QFETCH(int, height);
+        QFETCH(bool, buttonsAreSeen);
+        GameWindow window([](TestPlatform& platform) { writeSoloRecords(platform, 12); });
+        window.startGame();
+        window.window().setContentSize({1100, height});
+        QTest::qWait(50);
+        auto& sidebar = window.child<QScrollArea>(QStringLiteral("leftSidebar"));
+        auto& lists = window.child<QScrollArea>(QStringLiteral("highscoreArea"));
+        QCOMPARE(sidebar.verticalScrollBar()->maximum() == 0, buttonsAreSeen);
+        QCOMPARE(lists.verticalScrollBar()->maximum() > 0, buttonsAreSeen);
+
+        // Whatever scrolls, the logo goes with it and the last button can be reached.
+        sidebar.verticalScrollBar()->setValue(sidebar.verticalScrollBar()->maximum());
+        QCOMPARE(window.child<QWidget>(QStringLiteral("logo")).y(),
+                 22 - sidebar.verticalScrollBar()->maximum());
+        const QPushButton& end = window.child<QPushButton>(QStringLiteral("endButton"));
+        QVERIFY(sidebar.viewport()->rect().contains(
+            QRect(end.mapTo(sidebar.viewport(), QPoint()), end.size())));
     }
 
     void aVersusRecordMayLackNamesAndScores()

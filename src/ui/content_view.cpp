@@ -26,6 +26,8 @@
 
 namespace {
 
+constexpr int logoTop = 22;
+
 /// The line between sidebar and board.
 class Divider : public QWidget {
 public:
@@ -83,6 +85,9 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,
             [this](QWidget* tile) { m_boardArea->ensureWidgetVisible(tile, 20, 20); });
 
+    connect(m_leftSidebar, &LeftSidebar::scrolled, m_logo,
+            [this](int points) { m_logo->move(m_logo->x(), logoTop - points); });
+
     connect(m_game.get(), &MemoryGame::changed, this, &ContentView::noteChange);
     QCoreApplication::instance()->installEventFilter(this);
     refresh();
@@ -119,7 +124,7 @@ void ContentView::layOut()
                                                   ? m_versusStartView->controlsTop()
                                                   : m_singlePlayerStartView->controlsTop()));
     m_divider->setGeometry(dividerX, 0, 1, height());
-    m_logo->setGeometry(leadingPadding, 22, 180, 180);
+    m_logo->setGeometry(leadingPadding, logoTop, 180, 180);
 }
 
 void ContentView::arrangeBoard()

@@ -14,14 +14,17 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <algorithm>
-#include <iterator>
+#include <initializer_list>
 
 namespace {
 
 constexpr int gap = 12;
 constexpr int endPadding = 12;
-constexpr int logoSlot = 130; ///< The logo is higher, and overlaps the strip above.
+constexpr int logoSlot = 130;       ///< The logo is higher, and overlaps the strip above.
+constexpr int lowestStill = 480;    ///< Below this height the whole column scrolls.
+constexpr int leastHighscores = 40; ///< What of the highscores is always seen.
 constexpr int nameWidth = 180;
 constexpr int buttonWidth = 180;
 
@@ -38,6 +41,8 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     : QScrollArea(parent)
     , m_game(game)
     , m_column(new QWidget)
+    , m_highscoreArea(new QScrollArea(m_column))
+    , m_highscoreColumn(new QWidget)
     , m_pairingLine(addLine("pairingLine", nameWidth, systemFont(16, QFont::DemiBold)))
     , m_firstScoreLine(addLine("firstScoreLine", ScreenMetrics::leftPanelWidth,
                                monospacedFont(14, QFont::DemiBold)))
@@ -48,12 +53,17 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
           addLine("timeLine", ScreenMetrics::leftPanelWidth, monospacedFont(14, QFont::DemiBold)))
     , m_failuresLine(addLine("failuresLine", ScreenMetrics::leftPanelWidth,
                              monospacedFont(14, QFont::DemiBold)))
-    , m_highscores(game, m_column)
+    , m_highscores(game, m_highscoreColumn)
 {
     setObjectName(QStringLiteral("leftSidebar"));
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
+    m_highscoreArea->setObjectName(QStringLiteral("highscoreArea"));
+    m_highscoreArea->setWidget(m_highscoreColumn);
+    for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea}) {
+        area->setFrameShape(QFrame::NoFrame);
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area->setFocusPolicy(Qt::NoFocus);
+    }
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LeftSidebar::scrolled);
 
     for (ElidedLabel* const row : m_highscores.rows())
         m_rows.push_back({.widget = row,
@@ -166,33 +176,69 @@ void LeftSidebar::applyColours()
 void LeftSidebar::arrange()
 {
     std::vector<Row> shown;
-    std::ranges::copy_if(m_rows, std::back_inserter(shown),
-                         [](const Row& row) { return !row.widget->isHidden(); });
-    int natural = endPadding + logoSlot + endPadding;
+    std::vector<Row> highscores;
+    for (const Row& row : m_rows) {
+        if (!row.widget->isHidden())
+            (row.isHighscore ? highscores : shown).push_back(row);
+    }
+    // What all other rows take, and the gap before the highscores.
+    int others = endPadding + logoSlot + endPadding + gap + highscores.front().above;
     for (const Row& row : shown)
-        natural += gap + row.above + row.widget->sizeHint().height() + row.below;
+        others += gap + row.above + row.widget->sizeHint().height() + row.below;
+    const int shrinkable = gap * (static_cast<int>(highscores.size()) - 1);
+    int natural = shrinkable - highscores.front().above;
+    for (const Row& row : highscores)
+        natural += row.above + row.widget->sizeHint().height();
 
-    // Too high for the room, the highscores move closer together, evenly.
-    const auto highscores = static_cast<int>(std::ranges::count_if(shown, &Row::isHighscore));
-    const int shrinkable = std::max(0, highscores - 1);
-    const int overflow = std::clamp(natural - viewport()->height(), 0, gap * shrinkable);
-    const int rest = gap * shrinkable - overflow;
-    m_column->resize(viewport()->width(), std::max(viewport()->height(), natural - overflow));
+    const int room = height() - others;
+    const int closeTogether = natural - std::clamp(natural - room, 0, shrinkable);
+    const bool scrollsWhole = height() < lowestStill;
+    const int visible =
+        scrollsWhole ? closeTogether : std::clamp(room, leastHighscores, closeTogether);
+    m_column->resize(viewport()->width(), std::max(height(), others + visible));
 
     int y = endPadding + logoSlot;
-    int highscore = 0;
-    for (const Row& row : shown) {
-        int above = gap;
-        if (row.isHighscore) {
-            if (highscore > 0)
-                above = qRound(1.0 * rest * highscore / shrinkable) -
-                        qRound(1.0 * rest * (highscore - 1) / shrinkable);
-            ++highscore;
-        }
-        y += above + row.above;
+    const auto place = [&y, this](const Row& row) {
         const int height = row.widget->sizeHint().height();
-        row.widget->setGeometry(ScreenMetrics::leadingPadding, y, row.width, height);
+        const int width = std::min(row.width, m_column->width() - ScreenMetrics::leadingPadding);
+        y += gap + row.above;
+        row.widget->setGeometry(ScreenMetrics::leadingPadding, y, width, height);
         y += height + row.below;
+    };
+    const auto firstAction =
+        std::ranges::find(shown, static_cast<QWidget*>(m_resetButton), &Row::widget);
+    std::for_each(shown.begin(), firstAction, place);
+    y += gap + highscores.front().above;
+    m_highscoreArea->move(ScreenMetrics::leadingPadding, y);
+    arrangeHighscores(highscores, closeTogether, visible);
+    y += visible;
+    std::for_each(firstAction, shown.end(), place);
+}
+
+void LeftSidebar::arrangeHighscores(const std::vector<Row>& shown, int height, int visibleHeight)
+{
+    m_highscoreArea->resize(
+        std::min(ScreenMetrics::leftPanelWidth, m_column->width() - ScreenMetrics::leadingPadding),
+        visibleHeight);
+    // Scrolled by keys as well, but no stop on the way where there is nothing to scroll.
+    m_highscoreArea->setFocusPolicy(height > visibleHeight ? Qt::StrongFocus : Qt::NoFocus);
+    const int barWidth =
+        height > visibleHeight ? m_highscoreArea->verticalScrollBar()->sizeHint().width() : 0;
+    m_highscoreColumn->resize(m_highscoreArea->width() - barWidth, height);
+
+    int rows = 0;
+    for (const Row& row : shown)
+        rows += row.widget->sizeHint().height() + row.above;
+    const int gaps = height - rows + shown.front().above;
+    const auto count = static_cast<int>(shown.size()) - 1;
+    int y = 0;
+    for (int i = 0; i <= count; ++i) {
+        const Row& row = shown[static_cast<std::size_t>(i)];
+        if (i > 0)
+            y += row.above + qRound(1.0 * gaps * i / count) - qRound(1.0 * gaps * (i - 1) / count);
+        const int rowHeight = row.widget->sizeHint().height();
+        row.widget->setGeometry(0, y, m_highscoreColumn->width(), rowHeight);
+        y += rowHeight;
     }
 }
 

@@ -13,6 +13,9 @@ class QCheckBox;
 class QPushButton;
 
 /// The column beside the board: players and scores, highscores, actions.
+///
+/// Where it is higher than its room, the highscores first move closer together,
+/// then scroll by themselves; in a very low window the whole column scrolls.
 class LeftSidebar : public QScrollArea {
     Q_OBJECT
 
@@ -20,6 +23,10 @@ public:
     LeftSidebar(MemoryGame& game, QWidget* parent);
 
     void refresh();
+
+Q_SIGNALS:
+    /// The whole column was scrolled by `points` in all.
+    void scrolled(int points);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -40,9 +47,12 @@ private:
     void refreshPlayerLines();
     void applyColours();
     void arrange();
+    void arrangeHighscores(const std::vector<Row>& shown, int height, int visibleHeight);
 
     MemoryGame& m_game;
     QWidget* m_column;
+    QScrollArea* m_highscoreArea;
+    QWidget* m_highscoreColumn;
     std::vector<Row> m_rows{};
     ElidedLabel* m_pairingLine;
     ElidedLabel* m_firstScoreLine;
