@@ -91,7 +91,7 @@ int main(int argc, char* argv[])
                      });
     delegate.applicationDidFinishLaunching();
     QObject::connect(&appearance, &Appearance::changed, delegate.contentView(),
-                     qOverload<>(&QWidget::update));
+                     &ContentView::followAppearance);
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();
     return status;

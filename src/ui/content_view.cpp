@@ -149,6 +149,12 @@ void ContentView::showEvent(QShowEvent*)
     refresh();
 }
 
+void ContentView::followAppearance()
+{
+    m_leftSidebar->followAppearance();
+    update();
+}
+
 void ContentView::noteChange(MemoryGame::Member member)
 {
     if (member == MemoryGame::Member::isGameActive)

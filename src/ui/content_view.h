@@ -34,6 +34,9 @@ public:
     /// The edge of a card in a view of `windowSize` for the current layout.
     [[nodiscard]] double calculateCardSize(QSizeF windowSize) const;
 
+    /// Takes over the contrast and the motion that the desktop asks for.
+    void followAppearance();
+
     /// Lays the screen out for its size and the current layout.
     void layOut();
 

@@ -5,6 +5,7 @@
 #include "game/memory_game.h"
 #include "platform/localized_text.h"
 #include "platform/trim.h"
+#include "platform/widgets/appearance.h"
 #include "platform/widgets/control_text.h"
 #include "ui/colours.h"
 #include "ui/elided_label.h"
@@ -93,7 +94,6 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     });
 
     m_endButton = addButton("end_game", "endButton", 6);
-    setTextColour(m_endButton, QPalette::ButtonText, Colours::red);
     // A screen reader may press what is about to go.
     connect(m_endButton, &QPushButton::clicked, &m_game, [this] {
         if (m_game.isGameActive())
@@ -112,7 +112,7 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     }
 
     setWidget(m_column);
-    applyColours();
+    followAppearance();
 }
 
 ElidedLabel* LeftSidebar::addLine(const char* name, int width, const QFont& font)
@@ -162,14 +162,21 @@ void LeftSidebar::refreshPlayerLines()
     m_failuresLine->setVisible(!isVersus);
 }
 
-void LeftSidebar::applyColours()
+void LeftSidebar::followAppearance()
 {
-    const QColor blue = Colours::withOpacity(Colours::systemBlue(palette()), 0.95);
+    // Under high contrast nothing is left of colours that are hard to read.
+    const bool isContrastHigh = Appearance::isContrastHigh();
+    const QColor text = palette().color(QPalette::WindowText);
+    const QColor blue =
+        isContrastHigh ? text : Colours::withOpacity(Colours::systemBlue(palette()), 0.95);
+    const QColor heading = isContrastHigh ? text : Colours::secondaryText(palette());
+    setTextColour(m_endButton, QPalette::ButtonText,
+                  isContrastHigh ? palette().color(QPalette::ButtonText) : Colours::red);
     setTextColour(m_pairingLine, QPalette::WindowText, blue);
     setTextColour(m_nameLine, QPalette::WindowText, blue);
     for (ElidedLabel* const row : m_highscores.rows()) {
         if (m_highscores.paddingAbove(row) > 0)
-            setTextColour(row, QPalette::WindowText, Colours::secondaryText(palette()));
+            setTextColour(row, QPalette::WindowText, heading);
     }
 }
 
@@ -246,7 +253,7 @@ void LeftSidebar::changeEvent(QEvent* event)
 {
     QScrollArea::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        applyColours();
+        followAppearance();
 }
 
 void LeftSidebar::resizeEvent(QResizeEvent* event)

@@ -23,6 +23,8 @@ public:
     LeftSidebar(MemoryGame& game, QWidget* parent);
 
     void refresh();
+    /// Takes over the colours that the desktop asks for.
+    void followAppearance();
 
 Q_SIGNALS:
     /// The whole column was scrolled by `points` in all.
@@ -45,7 +47,6 @@ private:
     [[nodiscard]] ElidedLabel* addLine(const char* name, int width, const QFont& font);
     [[nodiscard]] QPushButton* addButton(const char* key, const char* name, int above);
     void refreshPlayerLines();
-    void applyColours();
     void arrange();
     void arrangeHighscores(const std::vector<Row>& shown, int height, int visibleHeight);
 

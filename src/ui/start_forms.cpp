@@ -75,6 +75,7 @@ void SinglePlayerStartView::refresh()
 {
     showText(m_playerName, m_game.playerName());
     m_startButton->setEnabled(m_game.canStartGame());
+    m_startButton->setDefault(m_game.canStartGame()); // as Return starts
 }
 
 void SinglePlayerStartView::focusField()
