@@ -186,23 +186,6 @@ private Q_SLOTS:
         QCOMPARE(photoAlbumTitle(u"iPhoto:   My  Trip"_s), std::optional(u"My  Trip"_s));
     }
 
-    void theDecksOfTheGameHold24PicturesEach()
-    {
-        QStringList decks = baseCardDecks();
-        QCOMPARE(decks.takeLast(), u"iPhoto"_s);
-        QCOMPARE(decks, (QStringList{u"Cyberpunk"_s, u"Kids"_s, u"70s"_s, u"80s"_s}));
-        for (const QString& deck : decks) {
-            const auto pictures = loadBundleDeck(ApplicationBundle::ofRunningProgram(), deck);
-            QCOMPARE(pictures.size(), std::size_t{24});
-            for (auto picture = pictures.begin(); picture != pictures.end(); ++picture) {
-                QCOMPARE(picture->image.size(), QSize(512, 512));
-                QVERIFY(!picture->image.hasAlphaChannel());
-                for (auto other = pictures.begin(); other != picture; ++other)
-                    QVERIFY2(other->image != picture->image, qPrintable(picture->name));
-            }
-        }
-    }
-
 private:
     [[nodiscard]] QString load() const
     {
