@@ -97,6 +97,54 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="card_layout_4"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>6 × 4, 12 pairs</translation></message>
   <message id="card_layout_5"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>7 × 4, 14 pairs</translation></message>
   <message id="card_layout_6"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>8 × 5, 20 pairs</translation></message>
+  <message id="preferences_accessible_name"><extracomment>Name of the preferences window for screen readers; no title shows.</extracomment>
+    <source></source><translation>Preferences</translation></message>
+  <message id="preferences_rounds"><extracomment>Caption before the number of rounds.</extracomment>
+    <source></source><translation>Rounds:</translation></message>
+  <message id="preferences_card_layout"><extracomment>Caption before the number of the card layout.</extracomment>
+    <source></source><translation>Card layout:</translation></message>
+  <message id="preferences_locked"><extracomment>Why the numbers of rounds and of the layout cannot be changed while a game runs.</extracomment>
+    <source></source><translation>Can be changed when the game is over.</translation></message>
+  <message id="preferences_found_pairs"><extracomment>Caption before preferences_remove_match.</extracomment>
+    <source></source><translation>Found pairs:</translation></message>
+  <message id="preferences_remove_match"><extracomment>Check box: found pairs leave the board.</extracomment>
+    <source></source><translation>Clear them off the board</translation></message>
+  <message id="preferences_deck"><extracomment>Caption before the menu of the decks.</extracomment>
+    <source></source><translation>Deck:</translation></message>
+  <message id="preferences_preview"><extracomment>For screen readers: the first pictures of the chosen deck. %1: their names, with commas between.</extracomment>
+    <source></source><translation>Pictures of the deck: %1</translation></message>
+  <message id="preferences_no_preview"><extracomment>For screen readers: backs of cards in place of the pictures, which are the player’s own photos or missing.</extracomment>
+    <source></source><translation>Backs of cards</translation></message>
+  <message id="preferences_photos"><extracomment>Caption before what the game may see of the player’s photos; quoted in iphoto_access_denied_info.</extracomment>
+    <source></source><translation>Photos:</translation></message>
+  <message id="preferences_photos_not_asked"><extracomment>After the caption: the player was not yet asked for the photos.</extracomment>
+    <source></source><translation>Not asked yet</translation></message>
+  <message id="preferences_photos_all"><extracomment>After the caption: the game may use all pictures.</extracomment>
+    <source></source><translation>All pictures</translation></message>
+  <message id="preferences_photos_only"><extracomment>After the caption: the game may use the pictures of one folder. %1: the folder’s name.</extracomment>
+    <source></source><translation>Only “%1”</translation></message>
+  <message id="preferences_photos_none"><extracomment>After the caption: the game may use no pictures.</extracomment>
+    <source></source><translation>No access</translation></message>
+  <message id="preferences_photos_allow"><extracomment>Button: lets the player allow access to the photos for the first time.</extracomment>
+    <source></source><translation>Allow…</translation></message>
+  <message id="preferences_photos_change"><extracomment>Button: lets the player change the access to the photos.</extracomment>
+    <source></source><translation>Change…</translation></message>
+  <message id="preferences_photos_unavailable"><extracomment>Why the button beside the photos cannot be pressed.</extracomment>
+    <source></source><translation>This version cannot use your own photos.</translation></message>
+  <message id="preferences_album"><extracomment>Check box: keeps an album named Paircade.</extracomment>
+    <source></source><translation>Keep a Paircade album</translation></message>
+  <message id="preferences_sound"><extracomment>Caption before preferences_play_sounds.</extracomment>
+    <source></source><translation>Sound:</translation></message>
+  <message id="preferences_play_sounds"><extracomment>Check box.</extracomment>
+    <source></source><translation>Play sounds</translation></message>
+  <message id="preferences_volume"><extracomment>Caption before the slider of the volume.</extracomment>
+    <source></source><translation>Volume:</translation></message>
+  <message id="volume_percent"><extracomment>Beside the slider of the volume. %1: 0 to 100. Where a space belongs before the sign it does not break.</extracomment>
+    <source></source><translation>%1%</translation></message>
+  <message id="preferences_window"><extracomment>Caption before preferences_full_screen.</extracomment>
+    <source></source><translation>Window:</translation></message>
+  <message id="preferences_full_screen"><extracomment>Check box: the game starts in full screen.</extracomment>
+    <source></source><translation>Start in full screen</translation></message>
 
   <!-- Highscore page in the browser -->
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
@@ -158,6 +206,7 @@ Space, Return: turn the card
 Alt and an underlined letter: that control or menu
 Ctrl+N: new game
 F11: full screen
+Ctrl+comma: preferences
 Ctrl+Q: quit</translation></message>
   <message id="about_text"><extracomment>About the program. %1: version number.</extracomment>
     <source></source><translation>Paircade %1
@@ -186,6 +235,16 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_full_screen"><extracomment>Letter underlined in menu_full_screen.</extracomment><source></source><translation>F</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>K</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>A</translation></message>
+  <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>R</translation></message>
+  <message id="mnemonic_preferences_card_layout"><extracomment>Letter underlined in preferences_card_layout.</extracomment><source></source><translation>l</translation></message>
+  <message id="mnemonic_preferences_remove_match"><extracomment>Letter underlined in preferences_remove_match.</extracomment><source></source><translation>C</translation></message>
+  <message id="mnemonic_preferences_deck"><extracomment>Letter underlined in preferences_deck.</extracomment><source></source><translation>D</translation></message>
+  <message id="mnemonic_preferences_photos_allow"><extracomment>Letter underlined in preferences_photos_allow.</extracomment><source></source><translation>A</translation></message>
+  <message id="mnemonic_preferences_photos_change"><extracomment>Letter underlined in preferences_photos_change.</extracomment><source></source><translation>h</translation></message>
+  <message id="mnemonic_preferences_album"><extracomment>Letter underlined in preferences_album.</extracomment><source></source><translation>K</translation></message>
+  <message id="mnemonic_preferences_play_sounds"><extracomment>Letter underlined in preferences_play_sounds.</extracomment><source></source><translation>P</translation></message>
+  <message id="mnemonic_preferences_volume"><extracomment>Letter underlined in preferences_volume.</extracomment><source></source><translation>V</translation></message>
+  <message id="mnemonic_preferences_full_screen"><extracomment>Letter underlined in preferences_full_screen.</extracomment><source></source><translation>S</translation></message>
 
   <!-- Screen readers -->
   <message id="window_accessible_name"><extracomment>Name of the main window.</extracomment>

@@ -11,6 +11,7 @@
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
 #include "settings/default_settings.h"
+#include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
 #include "ui/content_view.h"
 
@@ -36,7 +37,8 @@ void AppDelegate::applicationDidFinishLaunching()
 
     auto window = std::make_unique<MainWindow>();
     window->setCentralWidget(m_contentView);
-    new Menus(*window, m_contentView->game());
+    const auto* const menus = new Menus(*window, m_contentView->game());
+    connect(menus, &Menus::preferencesChosen, this, &AppDelegate::showPreferences);
     window->setContentSize(sizeForCurrentLayout());
     window->centre();
     window->shouldClose = [this] { return windowShouldClose(); };
@@ -58,6 +60,24 @@ void AppDelegate::updateWindowSizeForCurrentLayout()
     else
         m_window->centre();
     platform().notifications.post(gameLayoutChanged);
+}
+
+MemoryGame* AppDelegate::shownGame()
+{
+    return m_window ? &m_contentView->game() : nullptr;
+}
+
+void AppDelegate::showPreferences()
+{
+    if (!m_preferences) {
+        // Closed, it would go on writing back what it once showed.
+        m_preferences = new Preferences(this, m_window.get());
+        m_preferences->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_preferences->setWindowState(m_preferences->windowState() & ~Qt::WindowMinimized);
+    m_preferences->show();
+    m_preferences->raise();
+    m_preferences->activateWindow();
 }
 
 bool AppDelegate::windowShouldClose()

@@ -2,19 +2,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "settings/preferences/main_window_link.h"
+
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <memory>
 
 class ContentView;
 class MainWindow;
+class Preferences;
 
 /// Posted after the main window followed a change of the card layout.
 inline const QString gameLayoutChanged = QStringLiteral("gameLayoutChanged");
 
 /// Starts the game, owns its main window and marks on every way out that no
 /// game runs.
-class AppDelegate : public QObject {
+class AppDelegate : public QObject, public MainWindowLink {
     Q_OBJECT
 
 public:
@@ -27,7 +31,10 @@ public:
 
     /// Gives the window the size of the current layout and centres it; in full
     /// screen only the board follows. Without a window nothing happens.
-    void updateWindowSizeForCurrentLayout();
+    void updateWindowSizeForCurrentLayout() override;
+
+    /// Opens the preferences, or brings those that are open to the front.
+    void showPreferences();
 
     /// Marks that no game runs. Closing the window announces it as well.
     void applicationWillTerminate();
@@ -38,10 +45,13 @@ public:
     /// The main window; null before launch.
     [[nodiscard]] MainWindow* window() const { return m_window.get(); }
     [[nodiscard]] ContentView* contentView() const { return m_contentView; }
+    /// The game in the main window; null before launch.
+    [[nodiscard]] MemoryGame* shownGame() override;
 
 private:
     [[nodiscard]] bool windowShouldClose();
 
     std::unique_ptr<MainWindow> m_window{};
-    ContentView* m_contentView = nullptr; ///< Owned by the window.
+    ContentView* m_contentView = nullptr;  ///< Owned by the window.
+    QPointer<Preferences> m_preferences{}; ///< Owned by the window while they are open.
 };

@@ -35,9 +35,16 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
     m_restoreHighscores =
         addItem(gameMenu, "menu_restore_highscores", [this] { m_game.restoreHighscores(); });
     gameMenu->addSeparator();
+    QAction* const preferences =
+        addItem(gameMenu, "menu_preferences", [this] { Q_EMIT preferencesChosen(); });
+    preferences->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    preferences->setMenuRole(QAction::PreferencesRole);
+    gameMenu->addSeparator();
     // exit() and not quit(), which would close the window and so be announced.
     QAction* const quit = addItem(gameMenu, "menu_quit", [] { QCoreApplication::exit(0); });
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    // Also from the preferences.
+    quit->setShortcutContext(Qt::ApplicationShortcut);
     quit->setMenuRole(QAction::QuitRole);
 
     QMenu* const viewMenu = addMenu("menu_view");

@@ -17,6 +17,10 @@ class Menus : public QObject {
 public:
     Menus(MainWindow& window, MemoryGame& game);
 
+Q_SIGNALS:
+    /// The preferences were chosen from the menu.
+    void preferencesChosen();
+
 private:
     [[nodiscard]] QMenu* addMenu(const char* key);
     QAction* addItem(QMenu* menu, const char* key, const std::function<void()>& action);

@@ -44,6 +44,27 @@ std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
     return names;
 }
 
+QString folderOf(const QString& resources, const QString& deck)
+{
+    return resources + QStringLiteral("/Cards/") + deck;
+}
+
+/// Reads the files `names` of `folder` in order of name, until `most` of them
+/// have turned out to be pictures.
+CardPictures readPictures(const QString& folder, std::vector<QString> names, std::size_t most)
+{
+    std::ranges::stable_sort(names, sortsBefore);
+    CardPictures pictures;
+    for (const QString& name : names) {
+        if (pictures.size() >= most)
+            break;
+        QImage image = QImageReader(folder + QLatin1Char('/') + name).read();
+        if (!image.isNull())
+            pictures.push_back({std::move(image), QFileInfo(name).completeBaseName()});
+    }
+    return pictures;
+}
+
 } // namespace
 
 CardPictures loadBundleDeck(const ApplicationBundle& bundle, const QString& deck)
@@ -57,19 +78,22 @@ CardPictures loadBundleDeck(const ApplicationBundle& bundle, const QString& deck
         logLine(QStringLiteral("Bundle-Ordner Cards/") + deck + QStringLiteral(" nicht gefunden"));
         return {};
     }
-    const QString folder = *resources + QStringLiteral("/Cards/") + deck;
-    auto names = pictureFileNames(folder);
+    const QString folder = folderOf(*resources, deck);
+    const auto names = pictureFileNames(folder);
     if (!names) {
         logLine(QStringLiteral("Ordnerinhalt konnte nicht gelesen werden: ") + folder);
         return {};
     }
-    std::ranges::stable_sort(*names, sortsBefore);
+    return readPictures(folder, *names, names->size());
+}
 
-    CardPictures pictures;
-    for (const QString& name : *names) {
-        QImage image = QImageReader(folder + QLatin1Char('/') + name).read();
-        if (!image.isNull())
-            pictures.push_back({std::move(image), QFileInfo(name).completeBaseName()});
-    }
-    return pictures;
+CardPictures firstBundlePictures(const ApplicationBundle& bundle, const QString& deck,
+                                 std::size_t count)
+{
+    const auto resources = bundle.resourceFolder();
+    if (deck.isEmpty() || !resources)
+        return {};
+    const QString folder = folderOf(*resources, deck);
+    const auto names = pictureFileNames(folder);
+    return names ? readPictures(folder, *names, count) : CardPictures();
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The four sounds of play; a sound that cannot be had is skipped.
+#include "game/sound_effects.h"
+
 #include "game/memory_game.h"
 #include "platform/application_bundle.h"
 #include "platform/audio_player.h"
@@ -33,20 +35,27 @@ void MemoryGame::playDoneSound()
 
 void MemoryGame::playSound(const QString& name)
 {
+    if (AudioPlayer* const player = playSoundEffect(name))
+        m_audioPlayer = player;
+}
+
+AudioPlayer* playSoundEffect(const QString& name)
+{
     if (platform().defaults.integer(SettingsKeys::PlaySounds) != 1)
-        return;
+        return nullptr;
     const QString resource = QStringLiteral("Sounds/") + name + QStringLiteral(".mp3");
     const auto file =
         platform().bundle.resource(name, QStringLiteral("mp3"), QStringLiteral("Sounds"));
     if (!file) {
         logLine(QStringLiteral("Sounddatei ") + resource + QStringLiteral(" nicht gefunden"));
-        return;
+        return nullptr;
     }
     const double percent = platform().defaults.floating(SettingsKeys::VolumeSound);
-    m_audioPlayer = &platform().audio;
-    m_audioPlayer->play(*file, std::clamp(percent / 100.0, 0.0, 1.0),
-                        [resource](const QString& description) {
-                            logLine(QStringLiteral("Fehler beim Abspielen von ") + resource +
-                                    QStringLiteral(": ") + description);
-                        });
+    AudioPlayer& player = platform().audio;
+    player.play(*file, std::clamp(percent / 100.0, 0.0, 1.0),
+                [resource](const QString& description) {
+                    logLine(QStringLiteral("Fehler beim Abspielen von ") + resource +
+                            QStringLiteral(": ") + description);
+                });
+    return &player;
 }

@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
 /// How far the user lets the game look at personal photos.
 enum class PhotoAuthorization {
     notDetermined = 0, ///< never asked
@@ -17,13 +22,27 @@ enum class PhotoAuthorization {
     return status == PhotoAuthorization::authorized || status == PhotoAuthorization::limited;
 }
 
-/// The user's photo library.
+/// One of the user's own albums.
+struct PhotoAlbum {
+    std::optional<QString> localizedTitle{}; ///< As it is, not trimmed.
+    std::int64_t assetCount = 0;             ///< Pictures and films in it.
+};
+
+/// The user's photo library. No library is connected to the game so far: this
+/// one is restricted and empty. Its derived classes have something to show.
 class PhotoLibrary {
 public:
-    /// The current status; never asks the user. No library is connected to the
-    /// game so far, hence nothing can be read.
-    [[nodiscard]] PhotoAuthorization authorizationStatus() const
+    virtual ~PhotoLibrary() = default;
+
+    /// The current status; never asks the user.
+    [[nodiscard]] virtual PhotoAuthorization authorizationStatus() const
     {
         return PhotoAuthorization::restricted;
     }
+
+    /// The user's albums, in the library's order. Titles may be equal.
+    [[nodiscard]] virtual std::vector<PhotoAlbum> albums() const { return {}; }
+
+    /// The name of the part that may be read under `limited`.
+    [[nodiscard]] virtual QString limitedTo() const { return {}; }
 };

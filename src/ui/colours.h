@@ -11,6 +11,9 @@ namespace Colours {
 inline constexpr QColor gray{0x8E, 0x8E, 0x93};
 inline constexpr QColor yellow{0xFF, 0xCC, 0x00};
 inline constexpr QColor red{0xFF, 0x3B, 0x30};
+/// The ends of the back of a card, from its top left to its bottom right.
+inline constexpr QColor cardBackLight{0x14, 0xA8, 0xBD};
+inline constexpr QColor cardBackDark{0x08, 0x6B, 0x8A};
 
 /// `colour` with `opacity` from 0 to 1.
 [[nodiscard]] QColor withOpacity(QColor colour, double opacity);

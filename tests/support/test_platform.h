@@ -37,6 +37,18 @@ public:
     mutable QStringList paths{}; ///< Oldest first.
 };
 
+/// A photo library that holds what a test gives it; without that, nothing.
+class TestPhotoLibrary : public PhotoLibrary {
+public:
+    [[nodiscard]] PhotoAuthorization authorizationStatus() const override { return status; }
+    [[nodiscard]] std::vector<PhotoAlbum> albums() const override { return content; }
+    [[nodiscard]] QString limitedTo() const override { return folder; }
+
+    PhotoAuthorization status = PhotoAuthorization::restricted;
+    std::vector<PhotoAlbum> content{};
+    QString folder{};
+};
+
 /// A fresh home with the real services in it, and English texts if not told
 /// otherwise.
 ///
@@ -64,7 +76,7 @@ public:
     MainQueue mainQueue{};
     NotificationCenter notifications{};
     AudioPlayer audio{};
-    PhotoLibrary photos{};
+    TestPhotoLibrary photos{};
     AlertLog alertLog{};
     OpenedFiles openedFiles{};
 

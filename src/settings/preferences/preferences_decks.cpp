@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The part of the preferences that chooses the deck.
+#include "decks/deck_name.h"
+#include "platform/collation.h"
+#include "platform/localized_text.h"
+#include "platform/photo_library.h"
+#include "platform/platform.h"
+#include "platform/trim.h"
+#include "platform/user_defaults.h"
+#include "platform/widgets/control_text.h"
+#include "settings/preferences/preferences.h"
+#include "settings/settings_keys.h"
+#include "ui/elided_label.h"
+
+#include <algorithm>
+#include <ui_preferences.h>
+
+void Preferences::carddeck_changed()
+{
+    const QComboBox& menu = *cardDeck_dropdown();
+    platform().defaults.setString(SettingsKeys::CardDeck, menu.currentIndex() < 0
+                                                              ? baseCardDecks().front()
+                                                              : menu.currentText());
+    updatePaircadeAlbumState();
+    showDeck();
+}
+
+void Preferences::updatePaircadeAlbumState()
+{
+    const bool isPhotoLibrary = cardDeck_dropdown()->currentText() == photoLibraryDeck();
+    paircade_album()->setEnabled(isPhotoLibrary);
+    if (isPhotoLibrary)
+        return;
+    paircade_album()->setChecked(false);
+    platform().defaults.setInteger(SettingsKeys::PaircadeAlbum, 0);
+}
+
+void Preferences::rebuildCardDeckMenu()
+{
+    const QString current =
+        platform().defaults.string(SettingsKeys::CardDeck).value_or(baseCardDecks().front());
+    QStringList decks = baseCardDecks();
+    for (const QString& title : fetchAvailablePhotoAlbums())
+        decks << albumPrefix() + title;
+    decks.removeDuplicates();
+
+    QComboBox& menu = *cardDeck_dropdown();
+    menu.clear();
+    menu.addItems(decks);
+    // A title may be longer than the menu is wide.
+    for (int item = int(baseCardDecks().size()); item < menu.count(); ++item)
+        menu.setItemData(
+            item, QStringLiteral("<p>") + decks[item].toHtmlEscaped() + QStringLiteral("</p>"),
+            Qt::ToolTipRole);
+    qsizetype selected = decks.indexOf(current);
+    if (selected < 0) {
+        selected = 0;
+        platform().defaults.setString(SettingsKeys::CardDeck, decks.front());
+    }
+    menu.setCurrentIndex(int(selected));
+    // Comes last: a separator counts as an item, of the empty title.
+    if (decks.size() > baseCardDecks().size())
+        menu.insertSeparator(int(baseCardDecks().size()));
+    showDeck();
+}
+
+QStringList Preferences::fetchAvailablePhotoAlbums() const
+{
+    const PhotoLibrary& photos = platform().photos;
+    if (!allowsReading(photos.authorizationStatus()))
+        return {};
+    QStringList titles;
+    for (const PhotoAlbum& album : photos.albums()) {
+        const QString title = trimmedText(album.localizedTitle.value_or(QString()));
+        if (!title.isEmpty() && album.assetCount >= 1)
+            titles << title;
+    }
+    std::ranges::stable_sort(titles, sortsBefore);
+    return titles;
+}
+
+void Preferences::showDeck()
+{
+    m_ui->deckPreview->setDeck(cardDeck_dropdown()->currentText());
+}
+
+void Preferences::updatePhotosRow()
+{
+    const PhotoLibrary& photos = platform().photos;
+    const PhotoAuthorization status = photos.authorizationStatus();
+    QString state = localizedText("preferences_photos_none");
+    if (status == PhotoAuthorization::notDetermined)
+        state = localizedText("preferences_photos_not_asked");
+    else if (status == PhotoAuthorization::authorized)
+        state = localizedText("preferences_photos_all");
+    else if (status == PhotoAuthorization::limited)
+        state = localizedText("preferences_photos_only", {photos.limitedTo()});
+    m_photosState->setText(state);
+
+    const bool wasNeverAsked =
+        status == PhotoAuthorization::notDetermined || status == PhotoAuthorization::restricted;
+    m_ui->photosButton->setText(
+        controlText(wasNeverAsked ? "preferences_photos_allow" : "preferences_photos_change"));
+    const QString reason = localizedText("preferences_photos_unavailable");
+    m_ui->photosButton->setToolTip(reason);
+    m_ui->photosButton->setAccessibleDescription(state + QStringLiteral(". ") + reason);
+}
