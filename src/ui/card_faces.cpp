@@ -59,8 +59,8 @@ void paintBackGround(QPainter& painter, const QRectF& card)
 {
     paintShadow(painter, card);
     QLinearGradient ground(card.topLeft(), card.bottomRight());
-    ground.setColorAt(0, QColor::fromRgbF(0.08F, 0.66F, 0.74F));
-    ground.setColorAt(1, QColor::fromRgbF(0.03F, 0.42F, 0.54F));
+    ground.setColorAt(0, Colours::cardBackLight);
+    ground.setColorAt(1, Colours::cardBackDark);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
     painter.drawRoundedRect(card, cornerRadius, cornerRadius);
