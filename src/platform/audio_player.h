@@ -13,7 +13,7 @@
 /// player's own. Where no device opens, files are still checked, silently.
 class AudioPlayer {
 public:
-    /// Called on the player's thread with the description of what went wrong.
+    /// Called on the player's thread with the words for what went wrong.
     using Failure = std::function<void(const QString& description)>;
 
     AudioPlayer();

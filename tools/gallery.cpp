@@ -4,6 +4,7 @@
 // window: gallery FOLDER LANGUAGE light|dark. See tools/gallery.
 #include "platform/localized_text.h"
 #include "platform/widgets/palettes.h"
+#include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
 #include "support/game_window.h"
 #include "ui/frame_clock.h"
@@ -39,6 +40,7 @@ public:
             board(layout);
         turnsAndEnds();
         alertsAndBoxes();
+        preferences();
     }
 
 private:
@@ -167,6 +169,25 @@ private:
         for (const char* const item : {"menu_keyboard", "menu_about"}) {
             photograph(QString::fromLatin1(item));
             shown->child<QAction>(QString::fromLatin1(item)).trigger();
+        }
+    }
+
+    void preferences() const
+    {
+        for (const QString& deck : {QStringLiteral("Kids"), QStringLiteral("iPhoto")}) {
+            const auto shown = window(deck, 4);
+            for (const QString& state : {QStringLiteral("open"), QStringLiteral("locked")}) {
+                shown->child<QAction>(QStringLiteral("menu_preferences")).trigger();
+                QTest::qWait(60);
+                auto& pane = shown->child<Preferences>(QString());
+                pane.grab().save(m_folder + QStringLiteral("/preferences-") + deck + u'-' + state +
+                                 QStringLiteral(".png"));
+                pane.close();
+                QTest::qWait(30);
+                if (deck == QLatin1String("iPhoto"))
+                    break; // no game can start with it
+                shown->startGame();
+            }
         }
     }
 
