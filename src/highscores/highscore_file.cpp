@@ -13,7 +13,7 @@ namespace {
 
 // Some 200,000 results. What is longer was not written by the game, and could be
 // longer than the memory.
-constexpr qint64 longestFile = 64 * 1024 * 1024;
+constexpr qint64 longestFile = qint64{64} * 1024 * 1024;
 
 } // namespace
 

@@ -112,7 +112,7 @@ bool UserDefaults::hasRoom() const
     const QFileInfo file(m_store.fileName());
     if (!file.isFile())
         return true; // so there is nothing to lose
-    constexpr qint64 lockAndGrowth = 16 * 1024;
+    constexpr qint64 lockAndGrowth = 16'384;
     QTemporaryFile sample(file.path() + QStringLiteral("/room"));
     return sample.open() &&
            ::posix_fallocate(sample.handle(), 0, 2 * file.size() + lockAndGrowth) == 0;
