@@ -19,16 +19,20 @@ constexpr qint64 longestToken = 4096;
 /// Short, since the path of a socket is limited to some 100 bytes.
 QString socketPathFor(const QString& folder)
 {
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (runtime.isEmpty())
+        return {};
     const QByteArray path = QFile::encodeName(QFileInfo(folder).canonicalFilePath());
     const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex();
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-           QStringLiteral("/paircade-") + QString::fromLatin1(hash.first(16));
+    return runtime + QStringLiteral("/paircade-") + QString::fromLatin1(hash.first(16));
 }
 
 /// Passes the token to the game that listens; true once it has answered.
 bool handOver(const QString& socketPath, const QByteArray& token, const QDeadlineTimer& deadline)
 {
     const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+    if (socketPath.isEmpty())
+        return false;
     QLocalSocket socket;
     socket.connectToServer(socketPath);
     if (!socket.waitForConnected(left()))
@@ -50,7 +54,12 @@ SingleInstance::Claim SingleInstance::claim(const QString& folder,
 {
     if (folder.isEmpty())
         return Claim::isOurs;
-    m_lock = std::make_unique<QLockFile>(folder + QStringLiteral("/lock"));
+    const QString lockPath = folder + QStringLiteral("/lock");
+    // What is no file is no game's lock, and a pipe would be waited for.
+    const QFileInfo inTheWay(lockPath);
+    if ((inTheWay.exists() || inTheWay.isSymLink()) && !inTheWay.isFile())
+        return Claim::isOurs;
+    m_lock = std::make_unique<QLockFile>(lockPath);
     m_lock->setStaleLockTime(0);
     const QString socketPath = socketPathFor(folder);
     const QDeadlineTimer deadline(patience);
@@ -67,12 +76,20 @@ SingleInstance::Claim SingleInstance::claim(const QString& folder,
         // The other game is not quite there yet, or just going.
         QThread::msleep(50);
     } while (!deadline.hasExpired());
+    // A lock that nobody holds: left by a crash and cut short, or by this machine under
+    // another name. It cannot be removed while its owner lives.
+    if (m_lock->removeStaleLockFile() && m_lock->tryLock(0)) {
+        listen(socketPath);
+        return Claim::isOurs;
+    }
     return Claim::noAnswer;
 }
 
 void SingleInstance::listen(const QString& socketPath)
 {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    if (socketPath.isEmpty())
+        return;
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
     // We hold the lock, so what lies there is the leaving of a crash.
     QLocalServer::removeServer(socketPath);

@@ -18,6 +18,10 @@
 
 namespace {
 
+// 24 pictures that are as large as a decoder allows would not fit into the memory.
+constexpr qint64 mostPixels = 50'000'000;
+constexpr int longestEdge = 2048; // more than a card shows on any screen
+
 /// The names of the files in `folder` that can be pictures, in the order of
 /// the listing; none if the folder cannot be listed.
 std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
@@ -44,6 +48,23 @@ std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
     return names;
 }
 
+/// The picture in the file `path`; null if there is none, or one far too large.
+QImage decodedPicture(const QString& path)
+{
+    // Opening a pipe waits for whoever writes into it, and a device may never end.
+    if (!QFileInfo(path).isFile())
+        return {};
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > mostPixels)
+        return {};
+    QImage image = reader.read();
+    if (image.width() > longestEdge || image.height() > longestEdge)
+        image =
+            image.scaled(longestEdge, longestEdge, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return image;
+}
+
 QString folderOf(const QString& resources, const QString& deck)
 {
     return resources + QStringLiteral("/Cards/") + deck;
@@ -58,7 +79,7 @@ CardPictures readPictures(const QString& folder, std::vector<QString> names, std
     for (const QString& name : names) {
         if (pictures.size() >= most)
             break;
-        QImage image = QImageReader(folder + QLatin1Char('/') + name).read();
+        QImage image = decodedPicture(folder + QLatin1Char('/') + name);
         if (!image.isNull())
             pictures.push_back({std::move(image), QFileInfo(name).completeBaseName()});
     }

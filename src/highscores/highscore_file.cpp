@@ -7,6 +7,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+// Some 200,000 results. What is longer was not written by the game, and could be
+// longer than the memory.
+constexpr qint64 longestFile = qint64{64} * 1024 * 1024;
+
+} // namespace
 
 QString highscoreFolder()
 {
@@ -27,8 +36,11 @@ QString highscoreFile()
 
 std::optional<HighscoreEntries> readHighscores(const QString& path)
 {
+    // Opening a pipe waits for whoever writes into it, and a device may never end.
+    if (path.isEmpty() || !QFileInfo(path).isFile())
+        return std::nullopt;
     QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly) || file.size() > longestFile)
         return std::nullopt;
     const QByteArray json = file.readAll();
     // readAll() answers a failure with what it had got so far.

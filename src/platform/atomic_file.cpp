@@ -2,10 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/atomic_file.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 
 std::optional<QString> writeAtomically(const QString& path, const QByteArray& contents)
 {
+    // A pipe or a device would be gone, a link to one followed.
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile())
+        return QSaveFile::tr("Existing file %1 is not writable").arg(path);
     QSaveFile file(path);
     // Unbuffered: commit() of Qt 6.4 does not notice that its last flush failed, and a
     // full disk would leave the file cut short.

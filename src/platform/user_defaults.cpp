@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/user_defaults.h"
 
+#include <QFileInfo>
+#include <QTemporaryFile>
 #include <cmath>
+#include <fcntl.h>
 #include <limits>
 
 namespace {
@@ -25,10 +28,21 @@ std::int64_t nearestInteger(double number)
     return static_cast<std::int64_t>(number);
 }
 
+/// QSettings would wait for a pipe without end, replace a device, and wait for a lock
+/// that is no file; in place of such a path it is given one where nothing can be.
+QString pathForStore(const QString& path)
+{
+    for (const QFileInfo& file : {QFileInfo(path), QFileInfo(path + QStringLiteral(".lock"))}) {
+        if (file.exists() && !file.isFile())
+            return file.filePath() + QStringLiteral("/none");
+    }
+    return path;
+}
+
 } // namespace
 
 UserDefaults::UserDefaults(const QString& path)
-    : m_store(path, QSettings::IniFormat)
+    : m_store(pathForStore(path), QSettings::IniFormat)
 {
     reread();
 }
@@ -75,12 +89,31 @@ void UserDefaults::reread()
     m_values.clear();
     for (const QString& key : m_store.allKeys())
         m_values.insert(key, m_store.value(key));
+    m_values.insert(m_unsaved);
 }
 
 void UserDefaults::write(QLatin1String key, const QVariant& value)
 {
     m_values.insert(QString(key), value);
-    m_store.setValue(QString(key), value);
-    m_store.sync();
+    m_unsaved.insert(QString(key), value);
+    if (hasRoom()) {
+        for (auto unsaved = m_unsaved.cbegin(); unsaved != m_unsaved.cend(); ++unsaved)
+            m_store.setValue(unsaved.key(), unsaved.value());
+        m_unsaved.clear();
+        m_store.sync();
+    }
     Q_EMIT written(QString(key));
+}
+
+/// Whether the disk can take the file anew. QSettings does not notice that a write
+/// failed at its end, and would put a file cut short in the place of a whole one.
+bool UserDefaults::hasRoom() const
+{
+    const QFileInfo file(m_store.fileName());
+    if (!file.isFile())
+        return true; // so there is nothing to lose
+    constexpr qint64 lockAndGrowth = 16'384;
+    QTemporaryFile sample(file.path() + QStringLiteral("/room"));
+    return sample.open() &&
+           ::posix_fallocate(sample.handle(), 0, 2 * file.size() + lockAndGrowth) == 0;
 }

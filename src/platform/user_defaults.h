@@ -49,7 +49,9 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QVariant value(QLatin1String key) const { return m_values.value(QString(key)); }
     void write(QLatin1String key, const QVariant& value);
+    [[nodiscard]] bool hasRoom() const;
 
     QSettings m_store;
     QVariantHash m_values{};
+    QVariantHash m_unsaved{}; ///< Written, but not yet handed to m_store.
 };

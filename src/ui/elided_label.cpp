@@ -14,6 +14,18 @@ ElidedLabel::ElidedLabel(const QString& objectName, QWidget* parent)
     setTextFormat(Qt::PlainText);
 }
 
+void ElidedLabel::setText(const QString& text)
+{
+    constexpr qsizetype mostCharacters = 2000;
+    if (text.size() <= mostCharacters) {
+        QLabel::setText(text);
+        return;
+    }
+    // Not between the halves of one character.
+    const bool isSplit = text[mostCharacters - 1].isHighSurrogate();
+    QLabel::setText(text.first(mostCharacters - (isSplit ? 1 : 0)) + QChar(u'\u2026'));
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
     return {0, fontMetrics().height()};
