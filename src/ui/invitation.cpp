@@ -97,9 +97,11 @@ void Invitation::standReady()
 
 void Invitation::scheduleLoad()
 {
-    // Not before the first paint, which thus reads no picture, and one a turn
-    // of the event loop, so that a key never waits for all of them.
-    if (m_namesToLoad.empty() || !isVisible() || std::exchange(m_isLoadScheduled, true))
+    // Not before the first paint, which thus reads no picture (a display may ask
+    // for it long after the window is shown), and one a turn of the event loop, so
+    // that a key never waits for all of them.
+    if (!m_isPainted || m_namesToLoad.empty() || !isVisible() ||
+        std::exchange(m_isLoadScheduled, true))
         return;
     QTimer::singleShot(0, this, &Invitation::loadNextPicture);
 }
@@ -182,6 +184,8 @@ void Invitation::changeEvent(QEvent* event)
 
 void Invitation::paintEvent(QPaintEvent*)
 {
+    m_isPainted = true;
+    scheduleLoad();
     if (m_edge <= 0)
         return;
     QPainter painter(this);

@@ -56,6 +56,7 @@ private:
     std::vector<CardPicture> m_pictures{};
     std::vector<TurningCard> m_cards{}; ///< From left to right.
     bool m_isLoadScheduled = false;
+    bool m_isPainted = false;
     bool m_comesByTurning = true; ///< The pictures, once they are there.
     double m_edge = 0;            ///< 0 where there is no room.
     double m_middleY = 0;         ///< The middle card's centre, in this widget's points.
