@@ -201,7 +201,8 @@ void Invitation::paintEvent(QPaintEvent*)
             painter.translate(width() / 2.0 + radius * std::sin(radians),
                               m_middleY + radius * (1 - std::cos(radians)));
             painter.rotate(angle);
-            TurningCard& card = m_cards[static_cast<std::size_t>(place + reach)];
+            const int number = place + reach;
+            TurningCard& card = m_cards[static_cast<std::size_t>(number)];
             card.setGround(palette().color(QPalette::Window));
             card.paint(painter, QRectF(-m_edge / 2, -m_edge / 2, m_edge, m_edge));
             painter.restore();

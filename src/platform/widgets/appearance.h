@@ -37,7 +37,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void noteSetting(const QString& group, const QString& key, const QDBusVariant& value);
 
-private:
+private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void ask(const QString& group, const QString& key);
     void take(const QString& group, const QString& key, QVariant value);
     void applyScheme();

@@ -57,7 +57,6 @@ void keepStored(QCheckBox* box, QLatin1String key)
 Preferences::Preferences(MainWindowLink* link, QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::Preferences>())
-    , m_photosState(nullptr)
     , m_link(link)
 {
     m_ui->setupUi(this);

@@ -90,6 +90,6 @@ private:
     void storeVolume();
 
     std::unique_ptr<Ui::Preferences> m_ui;
-    ElidedLabel* m_photosState;
+    ElidedLabel* m_photosState = nullptr;
     MainWindowLink* m_link;
 };
