@@ -198,8 +198,8 @@ const std::vector<World>& worlds()
          [](auto& p) { p.writeHighscoreFile(QByteArray(5'000'000, '[')); }, 1},
         {"20,000 results", [=](auto& p) { p.writeHighscoreFile(resultsOf(20'000, u"Ben"_s)); },
          20'001},
-        {"ten names of 5 MB",
-         [=](auto& p) { p.writeHighscoreFile(resultsOf(10, u"日本\n😀"_s.repeated(400'000))); }, 11},
+        {"names of 5 MB",
+         [=](auto& p) { p.writeHighscoreFile(resultsOf(2, u"日本\n😀"_s.repeated(400'000))); }, 3},
     };
     return worlds;
 }
@@ -237,7 +237,7 @@ private Q_SLOTS:
         QVERIFY(window.game().gameCompleted());
         QCOMPARE(window.text(u"headerText"_s), window.game().winnerText());
         QVERIFY(!window.window().grab().isNull());
-        QVERIFY2(time.elapsed() < 30'000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY2(time.elapsed() < 60'000, qPrintable(QString::number(time.elapsed())));
 
         nobody.reset();
         if (where.results == untouched) {
