@@ -194,12 +194,12 @@ const std::vector<World>& worlds()
              QFile::resize(results(p), qint64{64} << 30);
          },
          1},
-        {"results nested 5,000,000 deep",
-         [](auto& p) { p.writeHighscoreFile(QByteArray(5'000'000, '[')); }, 1},
+        {"results nested 2,000,000 deep",
+         [](auto& p) { p.writeHighscoreFile(QByteArray(2'000'000, '[')); }, 1},
         {"20,000 results", [=](auto& p) { p.writeHighscoreFile(resultsOf(20'000, u"Ben"_s)); },
          20'001},
-        {"names of 5 MB",
-         [=](auto& p) { p.writeHighscoreFile(resultsOf(2, u"日本\n😀"_s.repeated(400'000))); }, 3},
+        {"three names of 5 MB",
+         [=](auto& p) { p.writeHighscoreFile(resultsOf(3, u"日本\n😀"_s.repeated(400'000))); }, 4},
     };
     return worlds;
 }
@@ -237,6 +237,8 @@ private Q_SLOTS:
         QVERIFY(window.game().gameCompleted());
         QCOMPARE(window.text(u"headerText"_s), window.game().winnerText());
         QVERIFY(!window.window().grab().isNull());
+        // To lay out megabytes would take seconds at every turn.
+        QVERIFY(window.text(u"bestTimes1"_s).size() < 3000);
         QVERIFY2(time.elapsed() < 60'000, qPrintable(QString::number(time.elapsed())));
 
         nobody.reset();

@@ -18,9 +18,9 @@
 
 namespace {
 
-// 24 pictures that are as large as a decoder allows would not fit into the memory.
-constexpr qint64 mostPixels = 50'000'000;
-constexpr int longestEdge = 2048; // more than a card shows on any screen
+// More than a card shows on any screen. A deck of pictures as large as the decoder
+// allows would take gigabytes.
+constexpr int longestEdge = 2048;
 
 /// The names of the files in `folder` that can be pictures, in the order of
 /// the listing; none if the folder cannot be listed.
@@ -48,17 +48,13 @@ std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
     return names;
 }
 
-/// The picture in the file `path`; null if there is none, or one far too large.
+/// The picture in the file `path`; null if there is none, or one too large to decode.
 QImage decodedPicture(const QString& path)
 {
     // Opening a pipe waits for whoever writes into it, and a device may never end.
     if (!QFileInfo(path).isFile())
         return {};
-    QImageReader reader(path);
-    const QSize size = reader.size();
-    if (qint64{size.width()} * size.height() > mostPixels)
-        return {};
-    QImage image = reader.read();
+    QImage image = QImageReader(path).read();
     if (image.width() > longestEdge || image.height() > longestEdge)
         image =
             image.scaled(longestEdge, longestEdge, Qt::KeepAspectRatio, Qt::SmoothTransformation);

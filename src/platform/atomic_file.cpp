@@ -7,7 +7,7 @@
 
 std::optional<QString> writeAtomically(const QString& path, const QByteArray& contents)
 {
-    // A pipe or a device would be gone, a link to one followed.
+    // A pipe or a device would be gone, a link to one followed. Of folders it knows.
     const QFileInfo target(path);
     if (target.exists() && !target.isFile() && !target.isDir())
         return QSaveFile::tr("Existing file %1 is not writable").arg(path);
