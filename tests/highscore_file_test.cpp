@@ -80,6 +80,8 @@ private Q_SLOTS:
         row("a NUL in between", '[' + solo + QByteArray(1, '\0') + ']', unreadable);
         row("an object", solo, unreadable);
         row("null", "null", unreadable);
+        row("a million empty records", "[{}" + QByteArray(",{}").repeated(1'000'000) + ']',
+            unreadable);
         row("nested 100,000 deep", QByteArray(100'000, '[') + QByteArray(100'000, ']'), unreadable);
         row("one bad record among good ones", '[' + solo + ",[]," + solo + ']', unreadable);
         for (const char* const member : {"id", "gameMode", "playerName", "elapsedSeconds",

@@ -211,6 +211,21 @@ private Q_SLOTS:
         QCOMPARE(defaults.integer(key), 4);
     }
 
+    void aLockThatCannotBeHadIsNotWaitedFor()
+    {
+        writeFile(m_file, "[General]\nKey=1\n");
+        QVERIFY(QFile::link(u"nowhere"_s, m_file + u".lock"_s));
+        UserDefaults defaults(m_file);
+        QCOMPARE(defaults.integer(key), 1);
+        defaults.setInteger(key, 2);
+        QCOMPARE(defaults.integer(key), 2);
+        QCOMPARE(stored(m_file)[u"Key"_s], u"1"_s);
+        // Once it is gone, the next write stores what has waited.
+        QVERIFY(QFile::remove(m_file + u".lock"_s));
+        defaults.setString(QLatin1String("Deck"), u"Kids"_s);
+        QCOMPARE(stored(m_file)[u"Key"_s], u"2"_s);
+    }
+
     void defaultsFillGapsOnly_data()
     {
         QTest::addColumn<QStringList>("lines");

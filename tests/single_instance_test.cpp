@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QThread>
 #include <cstdio>
+#include <unistd.h>
 
 class SingleInstanceTest : public QObject {
     Q_OBJECT
@@ -103,6 +104,23 @@ private Q_SLOTS:
         QVERIFY(holder.waitForFinished(5000));
     }
 
+    void aLockThatCannotBeRemovedKeepsNobodyFromPlaying()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can leave a lock to somebody else");
+        // Of a process long gone, in a folder that the player cannot write.
+        QFile lock(m_home->filePath(QStringLiteral("data/lock")));
+        QVERIFY(lock.open(QIODevice::WriteOnly));
+        lock.write("4194303\npaircade\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+        lock.close();
+        const auto readable =
+            QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+        QFile::setPermissions(m_home->filePath(QStringLiteral("data")), readable);
+        QFile::setPermissions(m_home->path(), readable | QFile::WriteOwner);
+        QCOMPARE(claimElsewhere(QStringLiteral("data"), {}, QStringLiteral("--claim-as-nobody")),
+                 int(SingleInstance::Claim::isOurs));
+    }
+
     void withoutAUsableFolderTheGameRunsUnguarded()
     {
         SingleInstance instance;
@@ -113,14 +131,14 @@ private Q_SLOTS:
 
 private:
     /// Claims the folder `path` of the home in another process.
-    int claimElsewhere(const QString& path, const QByteArray& token)
+    int claimElsewhere(const QString& path, const QByteArray& token,
+                       const QString& how = QStringLiteral("--claim"))
     {
         QProcess child;
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_ACTIVATION_TOKEN"), QString::fromLatin1(token));
         child.setProcessEnvironment(environment);
-        child.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("--claim"), m_home->filePath(path)});
+        child.start(QCoreApplication::applicationFilePath(), {how, m_home->filePath(path)});
         if (!QTest::qWaitFor([&] { return child.state() == QProcess::NotRunning; }, 10'000))
             return -1;
         return child.exitCode();
@@ -132,6 +150,9 @@ private:
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
+    constexpr uid_t nobody = 65534;
+    if (argc == 3 && qstrcmp(argv[1], "--claim-as-nobody") == 0 && ::setuid(nobody) == 0)
+        return int(SingleInstance().claim(QString::fromLocal8Bit(argv[2]), {}));
     if (argc == 3 && qstrcmp(argv[1], "--claim") == 0)
         return int(SingleInstance().claim(QString::fromLocal8Bit(argv[2]),
                                           SingleInstance::ownActivationToken()));

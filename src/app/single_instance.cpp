@@ -9,7 +9,11 @@
 #include <QStandardPaths>
 #include <QThread>
 #include <QTimer>
+#include <cerrno>
 #include <chrono>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 
@@ -41,6 +45,17 @@ bool handOver(const QString& socketPath, const QByteArray& token, const QDeadlin
     return socket.waitForReadyRead(left());
 }
 
+/// Whether a process that lives holds the lock: it keeps the file locked, too.
+bool isHeld(const QString& lockPath)
+{
+    const int file = ::open(QFile::encodeName(lockPath).constData(), O_RDONLY | O_CLOEXEC);
+    if (file < 0)
+        return errno == EACCES; // somebody else's, of whom nothing is known
+    const bool isFree = ::flock(file, LOCK_SH | LOCK_NB) == 0;
+    ::close(file);
+    return !isFree;
+}
+
 } // namespace
 
 QByteArray SingleInstance::ownActivationToken()
@@ -68,7 +83,7 @@ SingleInstance::Claim SingleInstance::claim(const QString& folder,
             listen(socketPath);
             return Claim::isOurs;
         }
-        // A folder that cannot be written holds no other game's lock either.
+        // Where no lock can be made, no other game is known of.
         if (m_lock->error() != QLockFile::LockFailedError)
             return Claim::isOurs;
         if (handOver(socketPath, activationToken, deadline))
@@ -82,7 +97,8 @@ SingleInstance::Claim SingleInstance::claim(const QString& folder,
         listen(socketPath);
         return Claim::isOurs;
     }
-    return Claim::noAnswer;
+    // One that is left but cannot be removed keeps nobody from playing.
+    return isHeld(lockPath) ? Claim::noAnswer : Claim::isOurs;
 }
 
 void SingleInstance::listen(const QString& socketPath)

@@ -11,9 +11,8 @@
 
 namespace {
 
-// Some 200,000 results. What is longer was not written by the game, and could be
-// longer than the memory.
-constexpr qint64 longestFile = qint64{64} * 1024 * 1024;
+// Close to a million results. What is longer could be longer than the memory.
+constexpr qint64 longestFile = qint64{256} * 1024 * 1024;
 
 } // namespace
 

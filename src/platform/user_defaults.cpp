@@ -3,6 +3,7 @@
 #include "platform/user_defaults.h"
 
 #include <QFileInfo>
+#include <QLockFile>
 #include <QTemporaryFile>
 #include <cmath>
 #include <fcntl.h>
@@ -96,13 +97,22 @@ void UserDefaults::write(QLatin1String key, const QVariant& value)
 {
     m_values.insert(QString(key), value);
     m_unsaved.insert(QString(key), value);
-    if (hasRoom()) {
+    if (canBeLocked() && hasRoom()) {
         for (auto unsaved = m_unsaved.cbegin(); unsaved != m_unsaved.cend(); ++unsaved)
             m_store.setValue(unsaved.key(), unsaved.value());
         m_unsaved.clear();
         m_store.sync();
     }
     Q_EMIT written(QString(key));
+}
+
+/// Whether the lock that QSettings takes for a write can be had: it would wait without
+/// end for one that nobody holds but that cannot be removed.
+bool UserDefaults::canBeLocked() const
+{
+    constexpr int patience = 200; // ms
+    QLockFile probe(m_store.fileName() + QStringLiteral(".lock"));
+    return probe.tryLock(patience) || probe.error() != QLockFile::LockFailedError;
 }
 
 /// Whether the disk can take the file anew. QSettings does not notice that a write

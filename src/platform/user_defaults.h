@@ -49,6 +49,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QVariant value(QLatin1String key) const { return m_values.value(QString(key)); }
     void write(QLatin1String key, const QVariant& value);
+    [[nodiscard]] bool canBeLocked() const;
     [[nodiscard]] bool hasRoom() const;
 
     QSettings m_store;
