@@ -113,8 +113,8 @@ private Q_SLOTS:
         QVERIFY(lock.open(QIODevice::WriteOnly));
         lock.write("4194303\npaircade\n" + QSysInfo::machineHostName().toUtf8() + '\n');
         lock.close();
-        const auto readable =
-            QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+        const auto readable = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                              QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
         QFile::setPermissions(m_home->filePath(QStringLiteral("data")), readable);
         QFile::setPermissions(m_home->path(), readable | QFile::WriteOwner);
         QCOMPARE(claimElsewhere(QStringLiteral("data"), {}, QStringLiteral("--claim-as-nobody")),
