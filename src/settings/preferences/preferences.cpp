@@ -282,8 +282,8 @@ void Preferences::describeSteppers()
 
 void Preferences::updateRoundsLabel(std::int64_t count)
 {
-    rounds_label()->setText(localizedText(
-        count == 1 ? "play_rounds_label_singular" : "play_rounds_label_plural", {count}));
+    rounds_label()->setText(localizedCount(
+        count == 1 ? "play_rounds_label_singular" : "play_rounds_label_plural", count, {count}));
 }
 
 void Preferences::updateCardsLabel(int index)
