@@ -43,10 +43,12 @@ public:
     void film(QWidget& widget, const QRect& area, int frames, double step, const QString& name)
     {
         constexpr int columns = 5;
+        constexpr int gap = 8;
         const auto place = [&area](int i) {
-            return QPoint(i % columns * area.width(), i / columns * area.height());
+            return QPoint(i % columns * (area.width() + gap), i / columns * (area.height() + gap));
         };
-        QPixmap sheet = ground({columns * area.width(), place(frames + columns - 1).y()});
+        QPixmap sheet =
+            ground({place(columns - 1).x() + area.width(), place(frames - 1).y() + area.height()});
         QPainter painter(&sheet);
         for (int i = 0; i < frames; ++i) {
             if (i > 0)
