@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -27,6 +28,34 @@ const QStringList decks{u"Kids"_s, u"Cyberpunk"_s, u"70s"_s, u"80s"_s};
 const QStringList shortNames{u"Anna"_s, u"Mia"_s, u"Jonas"_s, u"Lena"_s, u"Ben"_s};
 const QStringList longNames{u"Maximilian-Alexander"_s, u"Ann & <b>Bob</b>"_s,
                             u"Wilhelmina von Hohenlohe"_s, u"WWWWWWWWWWWWWWWWWWWW"_s, u"%1"_s};
+
+/// Catches the game's clock at its next tick and has it tick `seconds` more.
+class ClockHand : public QObject {
+public:
+    explicit ClockHand(int seconds)
+        : m_seconds(seconds)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+        if (!QTest::qWaitFor([this] { return m_seconds == 0; }, 3000))
+            qFatal("the clock does not tick");
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* const timer = qobject_cast<QTimer*>(watched);
+        if (event->type() != QEvent::Timer || timer == nullptr ||
+            timer->intervalAsDuration() != MemoryGame::tickInterval)
+            return false;
+        QCoreApplication::instance()->removeEventFilter(this);
+        QTimerEvent tick(static_cast<QTimerEvent*>(event)->timerId());
+        for (; m_seconds > 0; --m_seconds)
+            QCoreApplication::sendEvent(watched, &tick);
+        return false;
+    }
+
+private:
+    int m_seconds;
+};
 
 /// The first hidden card at or after the position `from`.
 std::size_t hiddenFrom(const MemoryGame& game, std::size_t from)
@@ -149,6 +178,16 @@ private:
         shown.clickCard(otherCard(shown.game(), first, false));
     }
 
+    void missAndThink(GameWindow& shown, int seconds)
+    {
+        missPair(shown);
+        m_camera.wait(1);
+        const ClockHand hand(seconds);
+        if (!QTest::qWaitFor([&shown] { return !shown.game().isCheckingPair(); }, 3000))
+            qFatal("the cards do not turn back");
+        m_camera.wait(1);
+    }
+
     void firstStart()
     {
         const Window shown = window(u"Cyberpunk"_s, 1, {});
@@ -200,6 +239,7 @@ private:
         } else {
             startSolo(*shown);
         }
+        missAndThink(*shown, 9 * layout);
         findPairs(*shown, layout == 1 ? 8 : 2 + layout / 2);
         m_camera.wait(1);
         missPair(*shown);
@@ -253,6 +293,7 @@ private:
             platform.defaults->setInteger(SettingsKeys::AmountRounds, 1);
         });
         startSolo(*shown);
+        missAndThink(*shown, 41 + 3 * int(deck));
         findPairs(*shown, 6);
         m_camera.wait(0.15 + 0.07 * double(deck));
         keep(*shown, u"leaving-"_s + decks[deck]);
@@ -370,6 +411,11 @@ int main(int argc, char* argv[])
     QApplication::setPalette(qstrcmp(argv[3], "dark") == 0 ? Palettes::dark() : Palettes::light());
     QApplication::setWindowIcon(QIcon(
         ApplicationBundle::ofRunningProgram().resource(u"icon"_s, u"png"_s).value_or(QString())));
-    Gallery(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2])).paintAll();
+    const QString language = QString::fromLocal8Bit(argv[2]);
+    QTranslator controls;
+    if (controls.load(QLocale(language), u"qtbase"_s, u"_"_s,
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&controls);
+    Gallery(QString::fromLocal8Bit(argv[1]), language).paintAll();
     return 0;
 }
