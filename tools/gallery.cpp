@@ -3,6 +3,7 @@
 // Writes pictures of every screen that a player can meet, taken of the real
 // window: gallery FOLDER LANGUAGE light|dark. See tools/gallery.
 #include "gallery_camera.h"
+#include "gallery_play.h"
 #include "platform/localized_text.h"
 #include "platform/widgets/palettes.h"
 #include "settings/preferences/preferences.h"
@@ -28,44 +29,6 @@ const QStringList decks{u"Kids"_s, u"Cyberpunk"_s, u"70s"_s, u"80s"_s};
 const QStringList shortNames{u"Anna"_s, u"Mia"_s, u"Jonas"_s, u"Lena"_s, u"Ben"_s};
 const QStringList longNames{u"Maximilian-Alexander"_s, u"Ann & <b>Bob</b>"_s,
                             u"Wilhelmina von Hohenlohe"_s, u"WWWWWWWWWWWWWWWWWWWW"_s, u"%1"_s};
-
-/// Catches the game's clock at its next tick and has it tick `seconds` more.
-class ClockHand : public QObject {
-public:
-    explicit ClockHand(int seconds)
-        : m_seconds(seconds)
-    {
-        QCoreApplication::instance()->installEventFilter(this);
-        if (!QTest::qWaitFor([this] { return m_seconds == 0; }, 3000))
-            qFatal("the clock does not tick");
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        const auto* const timer = qobject_cast<QTimer*>(watched);
-        if (event->type() != QEvent::Timer || timer == nullptr ||
-            timer->intervalAsDuration() != MemoryGame::tickInterval)
-            return false;
-        QCoreApplication::instance()->removeEventFilter(this);
-        QTimerEvent tick(static_cast<QTimerEvent*>(event)->timerId());
-        for (; m_seconds > 0; --m_seconds)
-            QCoreApplication::sendEvent(watched, &tick);
-        return false;
-    }
-
-private:
-    int m_seconds;
-};
-
-/// The first hidden card at or after the position `from`.
-std::size_t hiddenFrom(const MemoryGame& game, std::size_t from)
-{
-    const MemoryCards& cards = game.cards();
-    std::size_t position = from % cards.size();
-    while (cards[position].isFaceUp || cards[position].isMatched)
-        position = (position + 1) % cards.size();
-    return position;
-}
 
 class Gallery {
 public:
