@@ -258,7 +258,7 @@ private:
         startSolo(*shown);
         missAndThink(*shown, 41 + 3 * int(deck));
         findPairs(*shown, 6);
-        m_camera.wait(0.15 + 0.07 * double(deck));
+        m_camera.wait(0.14 + 0.06 * double(deck));
         keep(*shown, u"leaving-"_s + decks[deck]);
         m_camera.wait(0.35);
         keep(*shown, u"fading-"_s + decks[deck]);
