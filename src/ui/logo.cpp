@@ -39,9 +39,9 @@ QPixmap logoPixmap(qreal edge, qreal devicePixelRatio)
     const int pixels = qRound(edge * devicePixelRatio);
     QPixmap pixmap = kept(QStringLiteral("logo ") + QString::number(pixels), [pixels] {
         const QPixmap source = sourceFor(pixels);
-        return source.isNull() ? source
-                               : source.scaled(pixels, pixels, Qt::KeepAspectRatio,
-                                               Qt::SmoothTransformation);
+        return source.isNull()
+                   ? source
+                   : source.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     });
     pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
