@@ -147,14 +147,15 @@ void LeftSidebar::refreshPlayerLines()
     const bool isVersus = m_game.isVersusMode();
     const auto [first, second] = m_game.playerNames();
     const auto [firstScore, secondScore] = m_game.playerScores();
-    m_pairingLine->setText(localizedText("%1 vs %2", {first, second}));
-    m_firstScoreLine->setText(first + QStringLiteral(": ") + QString::number(firstScore));
-    m_secondScoreLine->setText(second + QStringLiteral(": ") + QString::number(secondScore));
+    m_pairingLine->setText(localizedText("%1 vs %2", {first, second}), {first, second});
+    m_firstScoreLine->setText(first + QStringLiteral(": ") + QString::number(firstScore), {first});
+    m_secondScoreLine->setText(second + QStringLiteral(": ") + QString::number(secondScore),
+                               {second});
     for (QWidget* const line : {m_pairingLine, m_firstScoreLine, m_secondScoreLine})
         line->setVisible(isVersus);
 
     const QString name = trimmedText(m_game.playerName());
-    m_nameLine->setText(name);
+    m_nameLine->setText(name, {name});
     m_nameLine->setVisible(!isVersus && !name.isEmpty());
     m_timeLine->setText(localizedText("time_label", {m_game.formattedElapsedTime()}));
     m_failuresLine->setText(localizedText("failed_attempts_label", {m_game.failedAttempts()}));
