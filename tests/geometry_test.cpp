@@ -122,6 +122,31 @@ private Q_SLOTS:
         }
     }
 
+    /// Wherever a card lies, its pixels are the same, at any pixel ratio.
+    void everyBackIsDrawnAlike_data() { addRows({1, 6}, {u"en"_s}); }
+
+    void everyBackIsDrawnAlike()
+    {
+        openWindow(0, QString());
+        typeNames(false, u"Ann"_s);
+        m_window->click(reach(startButton(false)));
+        QTest::mouseMove(m_window->window().windowHandle(), QPoint(1, 1));
+        QTest::qWait(300); // until no card shows the pointer
+        const QImage shown = m_window->window().grab().toImage();
+        const auto back = [&](std::size_t position) {
+            QWidget& card = m_window->card(position);
+            const double ratio = shown.devicePixelRatio();
+            const QPointF corner = QPointF(card.mapTo(&m_window->window(), QPoint())) * ratio;
+            const int edge = qFloor(card.width() * ratio) - 1;
+            return shown.copy(qRound(corner.x()), qRound(corner.y()), edge, edge);
+        };
+        const QImage first = back(0);
+        for (std::size_t i = 1; i < m_window->game().cards().size(); ++i) {
+            if (seen(m_window->card(i)) == place(m_window->card(i)))
+                QVERIFY2(back(i) == first, qPrintable(QString::number(i)));
+        }
+    }
+
     void cleanup() { m_window.reset(); }
 
 private:
