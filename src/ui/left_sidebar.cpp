@@ -10,6 +10,7 @@
 #include "ui/colours.h"
 #include "ui/elided_label.h"
 #include "ui/fonts.h"
+#include "ui/plain_area.h"
 #include "ui/screen_metrics.h"
 
 #include <QCheckBox>
@@ -58,12 +59,9 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
 {
     setObjectName(QStringLiteral("leftSidebar"));
     m_highscoreArea->setObjectName(QStringLiteral("highscoreArea"));
-    m_highscoreArea->setWidget(m_highscoreColumn);
-    for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea}) {
-        area->setFrameShape(QFrame::NoFrame);
+    for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea})
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        area->setFocusPolicy(Qt::NoFocus);
-    }
+    makePlain(*m_highscoreArea, m_highscoreColumn);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LeftSidebar::scrolled);
 
     for (ElidedLabel* const row : m_highscores.rows())
@@ -111,7 +109,7 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
             row.width = std::min(widest, ScreenMetrics::leftPanelWidth);
     }
 
-    setWidget(m_column);
+    makePlain(*this, m_column);
     followAppearance();
 }
 
