@@ -356,6 +356,7 @@ private:
             const QByteArray name = widget->objectName().toUtf8();
             reach(*widget);
             QVERIFY2(seen(*widget) == place(*widget), name);
+            QVERIFY2(!widget->parentWidget()->autoFillBackground(), name); // see plain_area.cpp
             for (const QWidget* const other : widgets)
                 QVERIFY2(other == widget || !seen(*other).intersects(seen(*widget)),
                          name + " lies on " + other->objectName().toUtf8());

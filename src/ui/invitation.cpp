@@ -60,7 +60,7 @@ void Invitation::arrange(const QRect& area, int formTop)
     m_edge = hasRoom ? edge : 0;
     // Whole area, since a turning card reaches beyond the fan.
     setGeometry(area);
-    const double gap = std::max(32.0, std::round(0.15 * room));
+    const double gap = std::max(32.0, std::rint(0.15 * room));
     m_middleY = formTop - gap - std::round(fanHeight * edge) + edge / 2 - area.top();
     update();
 }
