@@ -13,6 +13,7 @@
 #include "settings/settings_keys.h"
 #include "ui/elided_label.h"
 
+#include <QSignalBlocker>
 #include <algorithm>
 #include <ui_preferences.h>
 
@@ -32,7 +33,10 @@ void Preferences::updatePaircadeAlbumState()
     paircade_album()->setEnabled(isPhotoLibrary);
     if (isPhotoLibrary)
         return;
-    paircade_album()->setChecked(false);
+    {
+        const QSignalBlocker blocker(paircade_album());
+        paircade_album()->setChecked(false);
+    }
     platform().defaults.setInteger(SettingsKeys::PaircadeAlbum, 0);
 }
 
