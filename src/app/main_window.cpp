@@ -87,7 +87,8 @@ void MainWindow::toggleFullScreen()
 
 void MainWindow::liftLimits()
 {
-    setMinimumSize(0, 0);
+    // With 0 the layout's own minimum would hold, which may exceed the screen.
+    setMinimumSize(1, 1);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 

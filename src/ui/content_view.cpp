@@ -12,6 +12,7 @@
 #include "ui/leaving_board.h"
 #include "ui/left_sidebar.h"
 #include "ui/logo.h"
+#include "ui/plain_area.h"
 #include "ui/screen_metrics.h"
 #include "ui/start_forms.h"
 
@@ -76,10 +77,8 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     , m_divider(new Divider(this))
     , m_logo(new LogoView(this))
 {
-    m_boardArea->setFrameShape(QFrame::NoFrame);
-    m_boardArea->setFocusPolicy(Qt::NoFocus);
     m_boardArea->setWidgetResizable(true);
-    m_boardArea->setWidget(m_gameBoard);
+    makePlain(*m_boardArea, m_gameBoard);
     for (QWidget* const above : std::initializer_list<QWidget*>{m_header, m_divider, m_logo})
         above->raise();
     connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,

@@ -10,6 +10,7 @@
 #include "ui/colours.h"
 #include "ui/elided_label.h"
 #include "ui/fonts.h"
+#include "ui/plain_area.h"
 #include "ui/screen_metrics.h"
 
 #include <QCheckBox>
@@ -59,12 +60,9 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
 {
     setObjectName(QStringLiteral("leftSidebar"));
     m_highscoreArea->setObjectName(QStringLiteral("highscoreArea"));
-    m_highscoreArea->setWidget(m_highscoreColumn);
-    for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea}) {
-        area->setFrameShape(QFrame::NoFrame);
+    for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea})
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        area->setFocusPolicy(Qt::NoFocus);
-    }
+    makePlain(*m_highscoreArea, m_highscoreColumn);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LeftSidebar::scrolled);
 
     for (ElidedLabel* const row : m_highscores.rows())
@@ -112,7 +110,7 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
             row.width = std::min(widest, ScreenMetrics::leftPanelWidth);
     }
 
-    setWidget(m_column);
+    makePlain(*this, m_column);
     followAppearance();
 }
 
@@ -148,14 +146,15 @@ void LeftSidebar::refreshPlayerLines()
     const bool isVersus = m_game.isVersusMode();
     const auto [first, second] = m_game.playerNames();
     const auto [firstScore, secondScore] = m_game.playerScores();
-    m_pairingLine->setText(localizedText("%1 vs %2", {first, second}));
-    m_firstScoreLine->setText(first + QStringLiteral(": ") + QString::number(firstScore));
-    m_secondScoreLine->setText(second + QStringLiteral(": ") + QString::number(secondScore));
+    m_pairingLine->setText(localizedText("%1 vs %2", {first, second}), {first, second});
+    m_firstScoreLine->setText(first + QStringLiteral(": ") + QString::number(firstScore), {first});
+    m_secondScoreLine->setText(second + QStringLiteral(": ") + QString::number(secondScore),
+                               {second});
     for (QWidget* const line : {m_pairingLine, m_firstScoreLine, m_secondScoreLine})
         line->setVisible(isVersus);
 
     const QString name = trimmedText(m_game.playerName());
-    m_nameLine->setText(name);
+    m_nameLine->setText(name, {name});
     m_nameLine->setVisible(!isVersus && !name.isEmpty());
     m_timeLine->setText(localizedText("time_label", {m_game.formattedElapsedTime()}));
     m_failuresLine->setText(localizedText("failed_attempts_label", {m_game.failedAttempts()}));
