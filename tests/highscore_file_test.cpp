@@ -41,7 +41,7 @@ QByteArray fileAnd(const QByteArray& member)
 } // namespace
 
 /// Else the address sanitizer ends a process that asks for more memory than it gets.
-extern "C" const char* __asan_default_options()
+extern "C" const char* __asan_default_options() // NOLINT(bugprone-reserved-identifier)
 {
     return "allocator_may_return_null=1";
 }
