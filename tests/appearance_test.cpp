@@ -116,7 +116,7 @@ private Q_SLOTS:
         QFETCH(bool, isMotionReduced);
         Portal portal;
         portal.settings[{group, key}] = value;
-        const Appearance appearance;
+        const Appearance followed;
         QTest::qWait(150);
         QTEST(isDark(), "isDark");
         QCOMPARE(Appearance::isContrastHigh(), isContrastHigh);

@@ -238,7 +238,7 @@ private Q_SLOTS:
     {
         GameWindow window;
         const QStringList& opened = window.platform.openedFiles.paths;
-        QPushButton& button = window.child<QPushButton>(QStringLiteral("reportButton"));
+        auto& button = window.child<QPushButton>(QStringLiteral("reportButton"));
         window.click(button);
         QCOMPARE(opened.size(), 1);
         window.startGame();
@@ -308,7 +308,7 @@ private:
     /// height) of the card `position`.
     static QColor pixel(GameWindow& window, std::size_t position, QPointF where)
     {
-        QWidget& board = window.child<QWidget>(QStringLiteral("gameBoard"));
+        auto& board = window.child<QWidget>(QStringLiteral("gameBoard"));
         const QRect card = window.card(position).geometry();
         return board.grab().toImage().pixelColor(card.x() + int(where.x()),
                                                  card.y() + int(where.y() * card.height()));
