@@ -16,6 +16,7 @@
 #include <QEvent>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <initializer_list>
 
@@ -83,9 +84,10 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_versusCheckbox->setFont(systemFont(13, QFont::DemiBold));
     m_rows.push_back(
         {.widget = m_versusCheckbox, .width = ScreenMetrics::leftPanelWidth, .below = 8});
-    connect(m_versusCheckbox, &QCheckBox::clicked, &m_game, [this](bool isChecked) {
+    // Not clicked, which is silent when a screen reader toggles the box.
+    connect(m_versusCheckbox, &QCheckBox::toggled, &m_game, [this](bool isChecked) {
         if (m_game.isGameActive()) {
-            m_versusCheckbox->setChecked(m_game.isVersusMode());
+            showMode();
             return;
         }
         m_game.setIsVersusMode(isChecked);
@@ -136,10 +138,16 @@ void LeftSidebar::refresh()
 {
     refreshPlayerLines();
     m_highscores.refresh();
-    m_versusCheckbox->setChecked(m_game.isVersusMode());
+    showMode();
     m_versusCheckbox->setEnabled(!m_game.isGameActive());
     m_endButton->setVisible(m_game.isGameActive());
     arrange();
+}
+
+void LeftSidebar::showMode()
+{
+    const QSignalBlocker blocker(m_versusCheckbox); // nobody has toggled it
+    m_versusCheckbox->setChecked(m_game.isVersusMode());
 }
 
 void LeftSidebar::refreshPlayerLines()

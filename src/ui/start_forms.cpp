@@ -10,6 +10,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <initializer_list>
 
@@ -52,6 +53,7 @@ void stack(QWidget* form, std::initializer_list<QWidget*> controls)
 /// The same text set again would move the cursor.
 void showText(QLineEdit* field, const QString& text)
 {
+    const QSignalBlocker blocker(field); // nobody has typed
     if (field->text() != text)
         field->setText(text);
 }
@@ -66,7 +68,8 @@ SinglePlayerStartView::SinglePlayerStartView(MemoryGame& game, QWidget* parent)
 {
     m_startButton->setFont(systemFont(14, QFont::DemiBold));
     stack(this, {m_playerName, m_startButton});
-    connect(m_playerName, &QLineEdit::textEdited, &m_game, &MemoryGame::setPlayerName);
+    // Not textEdited, which is silent when a screen reader or dictation writes.
+    connect(m_playerName, &QLineEdit::textChanged, &m_game, &MemoryGame::setPlayerName);
     connect(m_playerName, &QLineEdit::returnPressed, &m_game, &MemoryGame::startNewGame);
     connect(m_startButton, &QPushButton::clicked, &m_game, &MemoryGame::startNewGame);
 }
@@ -97,8 +100,8 @@ VersusStartView::VersusStartView(MemoryGame& game, QWidget* parent)
     , m_startButton(makeButton("start_versus_game", "startVersusButton", 160, this))
 {
     stack(this, {m_playerOneName, m_playerTwoName, m_startButton});
-    connect(m_playerOneName, &QLineEdit::textEdited, &m_game, &MemoryGame::setPlayerOneName);
-    connect(m_playerTwoName, &QLineEdit::textEdited, &m_game, &MemoryGame::setPlayerTwoName);
+    connect(m_playerOneName, &QLineEdit::textChanged, &m_game, &MemoryGame::setPlayerOneName);
+    connect(m_playerTwoName, &QLineEdit::textChanged, &m_game, &MemoryGame::setPlayerTwoName);
     connect(m_startButton, &QPushButton::clicked, &m_game, &MemoryGame::startNewGame);
 }
 
