@@ -9,7 +9,7 @@ MemoryCardView::MemoryCardView(const MemoryCard& card, QWidget* parent)
     : QAbstractButton(parent)
     , m_face(card)
 {
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::ClickFocus); // the board lets Tab come to one of its cards
     setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::pressed, this, &MemoryCardView::followPointer);
     connect(this, &QAbstractButton::released, this, &MemoryCardView::followPointer);
