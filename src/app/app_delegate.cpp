@@ -39,6 +39,7 @@ void AppDelegate::applicationDidFinishLaunching()
     window->setCentralWidget(m_contentView);
     const auto* const menus = new Menus(*window, m_contentView->game());
     connect(menus, &Menus::preferencesChosen, this, &AppDelegate::showPreferences);
+    connect(menus, &Menus::statusChosen, m_contentView, &ContentView::tellStatus);
     window->setContentSize(sizeForCurrentLayout());
     window->centre();
     window->shouldClose = [this] { return windowShouldClose(); };
