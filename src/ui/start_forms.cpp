@@ -8,6 +8,7 @@
 #include "platform/widgets/control_text.h"
 #include "ui/fonts.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -18,9 +19,28 @@ namespace {
 
 constexpr int controlHeight = 32;
 
+/// Selects its text once it has the focus, not while it gets it: Qt would report the
+/// caret before the focus, and Orca then takes the field for one already named and
+/// says nothing.
+class NameField : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        const bool isByKey =
+            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        QFocusEvent quiet(event->type(), isByKey ? Qt::OtherFocusReason : event->reason());
+        QLineEdit::focusInEvent(&quiet);
+        if (isByKey)
+            QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+    }
+};
+
 QLineEdit* makeField(const char* placeholderKey, const char* name, int width, QWidget* form)
 {
-    auto* const field = new QLineEdit(form);
+    auto* const field = new NameField(form);
     field->setObjectName(QString::fromLatin1(name));
     field->setPlaceholderText(localizedText(placeholderKey));
     field->setAccessibleName(localizedText(placeholderKey));
