@@ -82,8 +82,11 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_versusCheckbox = new QCheckBox(controlText("versus_mode"), m_column);
     m_versusCheckbox->setObjectName(QStringLiteral("versusCheckbox"));
     m_versusCheckbox->setFont(systemFont(13, QFont::DemiBold));
+    // No wider than its text, or the ring around it would not close within the column.
     m_rows.push_back(
-        {.widget = m_versusCheckbox, .width = ScreenMetrics::leftPanelWidth, .below = 8});
+        {.widget = m_versusCheckbox,
+         .width = std::min(m_versusCheckbox->sizeHint().width(), ScreenMetrics::leftPanelWidth),
+         .below = 8});
     // Not clicked, which is silent when a screen reader toggles the box.
     connect(m_versusCheckbox, &QCheckBox::toggled, &m_game, [this](bool isChecked) {
         if (m_game.isGameActive()) {
