@@ -4,9 +4,11 @@
 #include "settings/settings_keys.h"
 #include "support/play.h"
 #include "support/test_platform.h"
+#include "ui/card_texts.h"
 #include "ui/commentary.h"
 
 #include <QTest>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +63,21 @@ private Q_SLOTS:
             findPair(*m_game);
         QVERIFY(
             m_commentary->take().endsWith(u". Round 2 of 2. Cards dealt: 3 rows, 4 columns."_s));
+    }
+
+    void picturesWithoutNamesAreNumbered()
+    {
+        MemoryCards cards(12);
+        std::set<QString> names;
+        for (std::size_t i = 0; i < cards.size(); i += 2) {
+            cards[i].pairID = cards[i + 1].pairID = QUuid::createUuid();
+        }
+        for (std::size_t i = 0; i < cards.size(); i += 2) {
+            names.insert(pictureName(cards, cards[i]));
+            QCOMPARE(pictureName(cards, cards[i + 1]), pictureName(cards, cards[i]));
+        }
+        QVERIFY(names.size() == 6 && names.contains(u"picture 1"_s) &&
+                names.contains(u"picture 6"_s));
     }
 
 private:

@@ -4,11 +4,13 @@
 
 #include "game/memory_card.h"
 
-/// What a card's picture is called; its file's name if it has no text, and a word
-/// for any picture if it has no name either.
-[[nodiscard]] QString pictureName(const CardPicture& picture);
+/// What the picture of `card` is called; its file's name if that has no text.
+///
+/// A photo has no name and is numbered instead, so that it can be told from the
+/// others on the board `cards` by ear: from 1, in an order that tells no places.
+[[nodiscard]] QString pictureName(const MemoryCards& cards, const MemoryCard& card);
 
-/// The card's place and state for a screen reader, at `position` on a board of
-/// `columns`. A hidden picture is not named, nor one that left the board.
-[[nodiscard]] QString cardText(const MemoryCard& card, std::size_t position, int columns,
+/// The place and state of the card at `position` of `cards` for a screen reader, on a
+/// board of `columns`. A hidden picture is not named, nor one that left the board.
+[[nodiscard]] QString cardText(const MemoryCards& cards, std::size_t position, int columns,
                                bool removeMatch);

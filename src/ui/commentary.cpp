@@ -82,9 +82,9 @@ void Commentary::noteTurn(const MemoryCard& before, const MemoryCard& now)
         // The picture that made the pair is named with it, and not twice.
         if (!m_lines.empty() && m_lines.back().kind == Kind::picture)
             m_lines.pop_back();
-        add(Kind::event, localizedText("said_pair", {pictureName(now.image)}));
+        add(Kind::event, localizedText("said_pair", {pictureName(m_cards, now)}));
     } else if (now.isFaceUp && !before.isFaceUp) {
-        add(Kind::picture, pictureName(now.image));
+        add(Kind::picture, pictureName(m_cards, now));
     } else if (!now.isFaceUp && before.isFaceUp) {
         const auto liesOpen = [](const MemoryCard& card) {
             return card.isFaceUp && !card.isMatched;

@@ -73,7 +73,7 @@ class Player:
         return None
 
     def hear(self, event):
-        if event.type == "object:announcement":
+        if event.type.startswith("object:announcement"):
             self.said.append(event.any_data)
             return
         try:
