@@ -113,6 +113,7 @@ class Player:
         cards = []
         for one in every(self.window):
             if one.getRole() == BUTTON and has(one, pyatspi.STATE_SHOWING):
+                one.clear_cache()  # what has the focus tells of a new name only later
                 if card := CARD.fullmatch(one.name):
                     cards.append(((card[1], card[2]), one, card[3]))
         return [(one, shown) for _, one, shown in sorted(cards, key=lambda card: card[0])]
@@ -121,7 +122,7 @@ class Player:
         """Turns a card; gives the name of its picture, as the tree has it."""
         card = self.cards()[place][0]
         press(card)
-        self.until(lambda: not card.name.endswith(HIDDEN), "a turned card")
+        self.until(lambda: (card.clear_cache(), not card.name.endswith(HIDDEN))[1], "a turned card")
         return CARD.fullmatch(card.name)[3].split(",")[0]
 
     def given_away(self):
