@@ -3,9 +3,11 @@
 #include "ui/content_view.h"
 
 #include "decks/deck_look.h"
+#include "platform/widgets/announcer.h"
 #include "platform/widgets/appearance.h"
 #include "ui/celebration.h"
 #include "ui/colours.h"
+#include "ui/commentary.h"
 #include "ui/game_board.h"
 #include "ui/header.h"
 #include "ui/invitation.h"
@@ -51,11 +53,18 @@ bool isMousePress(const QEvent& event)
     return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
 }
 
+/// Whether a key was pressed. One that may be a shortcut is asked about first, and
+/// comes as a key only if nobody takes it.
+bool isKeyPress(const QEvent& event)
+{
+    return event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride;
+}
+
 /// Whether a key is held down, or a press is the second of a double click. The
 /// window is told of such a press twice, as a press and as a double click.
 bool isRepeat(const QEvent& event)
 {
-    if (event.type() == QEvent::KeyPress)
+    if (isKeyPress(event))
         return static_cast<const QKeyEvent&>(event).isAutoRepeat();
     return event.type() == QEvent::MouseButtonDblClick ||
            static_cast<const QMouseEvent&>(event).flags().testFlag(
@@ -76,6 +85,8 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     , m_gameBoard(new GameBoard(*m_game, nullptr))
     , m_divider(new Divider(this))
     , m_logo(new LogoView(this))
+    , m_commentary(new Commentary(*m_game, this))
+    , m_announcer(new Announcer(this))
 {
     m_boardArea->setWidgetResizable(true);
     makePlain(*m_boardArea, m_gameBoard);
@@ -154,10 +165,17 @@ void ContentView::followAppearance()
     update();
 }
 
+void ContentView::tellStatus()
+{
+    m_announcer->say(m_commentary->status());
+}
+
 void ContentView::noteChange(MemoryGame::Member member)
 {
     if (member == MemoryGame::Member::isGameActive)
         m_needsFocus = true;
+    else if (member == MemoryGame::Member::isVersusMode)
+        m_ignoresKeyRepeats = true;
     // By the time of the refresh another board may lie there.
     if (member == MemoryGame::Member::cards && m_game->isGameActive() &&
         std::ranges::all_of(m_game->cards(), &MemoryCard::isMatched))
@@ -189,6 +207,8 @@ void ContentView::refresh()
     m_leftSidebar->refresh();
     m_header->refresh();
     inviteAgain();
+    // Last, since what is said of a new focus cuts off what was said before.
+    m_announcer->say(m_commentary->take());
 }
 
 void ContentView::showLeavingBoard()
@@ -276,7 +296,7 @@ void ContentView::giveFocus()
 
 bool ContentView::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isKey = event->type() == QEvent::KeyPress;
+    const bool isKey = isKeyPress(*event);
     if (!isKey && !isMousePress(*event))
         return QWidget::eventFilter(watched, event);
 
@@ -287,6 +307,9 @@ bool ContentView::eventFilter(QObject* watched, QEvent* event)
     // A key still held when its view went, or the second half of a double click,
     // must not act on the next view.
     if (!isRepeat(*event))
-        m_ignoresRepeats = false;
-    return m_ignoresRepeats;
+        m_ignoresRepeats = m_ignoresKeyRepeats = false;
+    const bool isIgnored = m_ignoresRepeats || (isKey && m_ignoresKeyRepeats);
+    if (isIgnored && event->type() == QEvent::ShortcutOverride)
+        event->accept(); // else the shortcut would be taken
+    return isIgnored;
 }

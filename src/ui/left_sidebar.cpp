@@ -17,6 +17,7 @@
 #include <QEvent>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <initializer_list>
 
@@ -80,11 +81,15 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_versusCheckbox = new QCheckBox(controlText("versus_mode"), m_column);
     m_versusCheckbox->setObjectName(QStringLiteral("versusCheckbox"));
     m_versusCheckbox->setFont(systemFont(13, QFont::DemiBold));
+    // No wider than its text, or the ring around it would not close within the column.
     m_rows.push_back(
-        {.widget = m_versusCheckbox, .width = ScreenMetrics::leftPanelWidth, .below = 8});
-    connect(m_versusCheckbox, &QCheckBox::clicked, &m_game, [this](bool isChecked) {
+        {.widget = m_versusCheckbox,
+         .width = std::min(m_versusCheckbox->sizeHint().width(), ScreenMetrics::leftPanelWidth),
+         .below = 8});
+    // Not clicked, which is silent when a screen reader toggles the box.
+    connect(m_versusCheckbox, &QCheckBox::toggled, &m_game, [this](bool isChecked) {
         if (m_game.isGameActive()) {
-            m_versusCheckbox->setChecked(m_game.isVersusMode());
+            showMode();
             return;
         }
         m_game.setIsVersusMode(isChecked);
@@ -135,10 +140,16 @@ void LeftSidebar::refresh()
 {
     refreshPlayerLines();
     m_highscores.refresh();
-    m_versusCheckbox->setChecked(m_game.isVersusMode());
+    showMode();
     m_versusCheckbox->setEnabled(!m_game.isGameActive());
     m_endButton->setVisible(m_game.isGameActive());
     arrange();
+}
+
+void LeftSidebar::showMode()
+{
+    const QSignalBlocker blocker(m_versusCheckbox); // nobody has toggled it
+    m_versusCheckbox->setChecked(m_game.isVersusMode());
 }
 
 void LeftSidebar::refreshPlayerLines()

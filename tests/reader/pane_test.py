@@ -5,7 +5,6 @@
 Skipped (status 77) where there is no AT-SPI or no virtual display.
 """
 import importlib.util
-import os
 import shutil
 import subprocess
 import sys
