@@ -2,25 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/photo_access.h"
+
 #include <QString>
 #include <cstdint>
 #include <optional>
 #include <vector>
-
-/// How far the user lets the game look at personal photos.
-enum class PhotoAuthorization {
-    notDetermined = 0, ///< never asked
-    restricted = 1,    ///< not to be had on this system, whatever the user says
-    denied = 2,
-    authorized = 3, ///< everything
-    limited = 4,    ///< a part chosen by the user
-};
-
-/// Whether pictures may be read under `status`.
-[[nodiscard]] constexpr bool allowsReading(PhotoAuthorization status) noexcept
-{
-    return status == PhotoAuthorization::authorized || status == PhotoAuthorization::limited;
-}
 
 /// One of the user's own albums.
 struct PhotoAlbum {

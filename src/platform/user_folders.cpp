@@ -4,6 +4,16 @@
 
 #include <QStandardPaths>
 
+namespace {
+
+QString settingsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/Paircade/");
+}
+
+} // namespace
+
 QString applicationSupportFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
@@ -11,6 +21,10 @@ QString applicationSupportFolder()
 
 QString settingsFile()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/Paircade/Paircade.conf");
+    return settingsFolder() + QStringLiteral("Paircade.conf");
+}
+
+QString photoAccessFile()
+{
+    return settingsFolder() + QStringLiteral("PhotoAccess.conf");
 }

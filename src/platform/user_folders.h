@@ -10,3 +10,6 @@
 
 /// The file of the settings, `$XDG_CONFIG_HOME/Paircade/Paircade.conf`.
 [[nodiscard]] QString settingsFile();
+
+/// The file of the answer to the question for photo access, beside the settings.
+[[nodiscard]] QString photoAccessFile();
