@@ -57,7 +57,7 @@ int main(int argc, char* argv[])
     MainQueue mainQueue;
     NotificationCenter notifications;
     AudioPlayer audio;
-    const PhotoLibrary photos;
+    PhotoLibrary photos;
     AlertBox alerts;
     const Workspace workspace;
     const Platform services{defaults, bundle, mainQueue, notifications,
