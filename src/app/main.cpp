@@ -22,6 +22,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTranslator>
 #include <cstdio>
 
@@ -57,7 +58,10 @@ int main(int argc, char* argv[])
     MainQueue mainQueue;
     NotificationCenter notifications;
     AudioPlayer audio;
-    const PhotoLibrary photos;
+    PhotoAccessStore photoAccess(photoAccessFile());
+    PhotoLibrary photos(photoAccess, nullptr,
+                        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+                        PhotoLibrary::helperOfRunningProgram());
     AlertBox alerts;
     const Workspace workspace;
     const Platform services{defaults, bundle, mainQueue, notifications,
