@@ -65,6 +65,6 @@ void Preferences::openPaircadeAlbum()
     const PhotoLibrary& photos = platform().photos;
     if (!allowsReading(photos.authorizationStatus()))
         return;
-    if (const auto folder = albumFolder(photos.folder(), "Paircade"))
+    if (const auto folder = albumFolder(photos.readableFolder(), "Paircade"))
         platform().workspace.openFile(QFile::decodeName(*folder));
 }
