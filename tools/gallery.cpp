@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 
 namespace {
@@ -193,9 +194,30 @@ private:
         }
     }
 
+    /// An album of 24 landscapes, each with a sky, a hill and a sun of its own.
+    static void paintPhotos(const TestPlatform& platform)
+    {
+        const QString album = platform.home.filePath(QStringLiteral("Pictures/Hills"));
+        QDir().mkpath(album);
+        for (int i = 0; i < 24; ++i) {
+            QImage photo(640, 480, QImage::Format_RGB32);
+            photo.fill(QColor::fromHsv(i * 15, 110, 235));
+            QPainter painter(&photo);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(QColor::fromHsv((i * 15 + 40) % 360, 60, 255));
+            painter.drawEllipse(120 + 35 * (i % 10), 60 + 15 * (i % 7), 90, 90);
+            painter.setBrush(QColor::fromHsv((i * 15 + 180) % 360, 150, 130));
+            painter.drawEllipse(-300 + 60 * (i % 8), 280, 900, 600);
+            photo.save(album + QStringLiteral("/%1.jpg").arg(i));
+        }
+    }
+
     void photos() const
     {
-        const auto shown = window(QStringLiteral("Kids"), 1);
+        const auto shown = window(QStringLiteral("iPhoto"), 4, [](TestPlatform& platform) {
+            paintPhotos(platform);
+            platform.photos.status.reset();
+        });
         QTimer::singleShot(100, qApp, [this, &shown] {
             QWidget* const question = QApplication::activeModalWidget();
             question->grab().save(m_folder + QStringLiteral("/question.png"));
@@ -203,6 +225,19 @@ private:
             question->close();
         });
         (void)AccessQuestion(shown->resources()).askForPhotoAccess();
+
+        shown->platform.photoAccess.write({PhotoAuthorization::authorized});
+        shown->platform.defaults->setString(SettingsKeys::CardDeck,
+                                            QStringLiteral("iPhoto: Hills"));
+        shown->startGame();
+        for (int pair = 0; pair < 6; ++pair)
+            shown->clickPair();
+        wait(1);
+        keep(*shown, QStringLiteral("board-photos"));
+        shown->child<QAction>(QStringLiteral("menu_preferences")).trigger();
+        QTest::qWait(60);
+        shown->child<Preferences>(QString()).grab().save(m_folder +
+                                                         QStringLiteral("/preferences-album.png"));
     }
 
     QString m_folder;
