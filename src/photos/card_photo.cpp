@@ -44,6 +44,8 @@ QImage cardPhoto(int file)
 {
     using PhotoMessages::pictureEdge;
     QImage image = decoded(file);
+    // Scaling gives one to pictures with a palette.
+    const bool hasAlpha = image.hasAlphaChannel();
     const int edge = std::min(image.width(), image.height());
     if (edge == 0)
         return {};
@@ -53,6 +55,6 @@ QImage cardPhoto(int file)
             image.scaled(pictureEdge, pictureEdge, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (image.colorSpace().isValid())
         image.convertToColorSpace(QColorSpace::SRgb);
-    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                         : QImage::Format_RGB32);
+    return image.convertToFormat(hasAlpha ? QImage::Format_ARGB32_Premultiplied
+                                          : QImage::Format_RGB32);
 }

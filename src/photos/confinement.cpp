@@ -12,7 +12,7 @@ namespace {
 
 constexpr rlim_t mostData = rlim_t{512} << 20; // bytes
 constexpr rlim_t mostTime = 30;                // seconds of processor time
-constexpr rlim_t mostPictureTime = 5;          // the same, for one picture
+constexpr rlim_t mostPictureTime = 4;          // the same, for one picture
 constexpr rlim_t mostFiles = 256;
 
 void limit(__rlimit_resource_t resource, rlim_t most)
