@@ -52,6 +52,7 @@ const QStringList seenTogether{
     u"menu_quit"_s,
     u"menu_full_screen"_s,
     u"menu_keyboard menu_about"_s,
+    u"photo_question_all photo_question_folder photo_question_none"_s,
     u"preferences_rounds preferences_card_layout preferences_remove_match preferences_deck "
     u"preferences_photos_allow preferences_album preferences_play_sounds preferences_volume "
     u"preferences_full_screen"_s,

@@ -3,6 +3,7 @@
 // Writes pictures of every screen that a player can meet, taken of the real
 // window: gallery FOLDER LANGUAGE light|dark. See tools/gallery.
 #include "platform/localized_text.h"
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/palettes.h"
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
@@ -41,6 +42,7 @@ public:
         turnsAndEnds();
         alertsAndBoxes();
         preferences();
+        photos();
     }
 
 private:
@@ -189,6 +191,18 @@ private:
                 shown->startGame();
             }
         }
+    }
+
+    void photos() const
+    {
+        const auto shown = window(QStringLiteral("Kids"), 1);
+        QTimer::singleShot(100, qApp, [this, &shown] {
+            QWidget* const question = QApplication::activeModalWidget();
+            question->grab().save(m_folder + QStringLiteral("/question.png"));
+            keep(*shown, QStringLiteral("under-the-question"));
+            question->close();
+        });
+        (void)AccessQuestion(shown->resources()).askForPhotoAccess();
     }
 
     QString m_folder;

@@ -13,6 +13,7 @@
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
 #include "platform/user_folders.h"
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/alert_box.h"
 #include "platform/widgets/appearance.h"
 #include "platform/workspace.h"
@@ -22,7 +23,6 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QStandardPaths>
 #include <QTranslator>
 #include <cstdio>
 
@@ -59,8 +59,8 @@ int main(int argc, char* argv[])
     NotificationCenter notifications;
     AudioPlayer audio;
     PhotoAccessStore photoAccess(photoAccessFile());
-    PhotoLibrary photos(photoAccess, nullptr,
-                        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+    AccessQuestion accessQuestion(picturesFolder());
+    PhotoLibrary photos(photoAccess, &accessQuestion, picturesFolder(),
                         PhotoLibrary::helperOfRunningProgram());
     AlertBox alerts;
     const Workspace workspace;

@@ -38,15 +38,14 @@ public:
     /// Empty where reading is not allowed. Blocks up to PhotoFetch::longestRound.
     [[nodiscard]] virtual std::vector<PhotoAlbum> albums() const;
 
+    /// The folder that may be read, in the system's bytes; empty if none.
+    [[nodiscard]] QByteArray readableFolder() const;
+
     /// The name of the part that may be read under `limited`.
     [[nodiscard]] virtual QString limitedTo() const;
 
     /// Begins to read for one round. An empty library where reading is not allowed.
     [[nodiscard]] virtual std::unique_ptr<PhotoFetch> startFetch() const;
-
-protected:
-    /// The folder that may be read; empty if none.
-    [[nodiscard]] QByteArray readableFolder() const;
 
 private:
     PhotoAccessStore& m_store;

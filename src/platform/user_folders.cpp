@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/user_folders.h"
 
+#include <QDir>
 #include <QStandardPaths>
 
 namespace {
@@ -22,6 +23,13 @@ QString applicationSupportFolder()
 QString settingsFile()
 {
     return settingsFolder() + QStringLiteral("Paircade.conf");
+}
+
+QString picturesFolder()
+{
+    const QString folder =
+        QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    return folder == QDir::homePath() ? QString() : folder;
 }
 
 QString photoAccessFile()

@@ -3,7 +3,11 @@
 #include "ui/content_view.h"
 
 #include "decks/deck_look.h"
+#include "platform/main_queue.h"
+#include "platform/platform.h"
 #include "platform/widgets/appearance.h"
+#include "platform/widgets/held_input.h"
+#include "platform/widgets/logo.h"
 #include "ui/celebration.h"
 #include "ui/colours.h"
 #include "ui/game_board.h"
@@ -11,12 +15,10 @@
 #include "ui/invitation.h"
 #include "ui/leaving_board.h"
 #include "ui/left_sidebar.h"
-#include "ui/logo.h"
 #include "ui/screen_metrics.h"
 #include "ui/start_forms.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <algorithm>
@@ -44,22 +46,6 @@ protected:
         QPainter(this).fillRect(rect(), Colours::withOpacity(Colours::gray, 0.35));
     }
 };
-
-bool isMousePress(const QEvent& event)
-{
-    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
-}
-
-/// Whether a key is held down, or a press is the second of a double click. The
-/// window is told of such a press twice, as a press and as a double click.
-bool isRepeat(const QEvent& event)
-{
-    if (event.type() == QEvent::KeyPress)
-        return static_cast<const QKeyEvent&>(event).isAutoRepeat();
-    return event.type() == QEvent::MouseButtonDblClick ||
-           static_cast<const QMouseEvent&>(event).flags().testFlag(
-               Qt::MouseEventCreatedDoubleClick);
-}
 
 } // namespace
 
@@ -89,6 +75,10 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
             [this](int points) { m_logo->move(m_logo->x(), logoTop - points); });
 
     connect(m_game.get(), &MemoryGame::changed, this, &ContentView::noteChange);
+    connect(&platform().mainQueue, &MainQueue::heldChanged, this, [this](bool isHeld) {
+        if (!isHeld && std::exchange(m_isRefreshScheduled, false))
+            scheduleRefresh();
+    });
     QCoreApplication::instance()->installEventFilter(this);
     refresh();
 }
@@ -181,6 +171,10 @@ void ContentView::refreshIfScheduled()
 
 void ContentView::refresh()
 {
+    if (platform().mainQueue.isHeld()) { // what is shown is half of a change
+        m_isRefreshScheduled = true;
+        return;
+    }
     m_singlePlayerStartView->refresh();
     m_versusStartView->refresh();
     showLeavingBoard();

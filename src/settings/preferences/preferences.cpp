@@ -192,6 +192,7 @@ void Preferences::connectControls()
 
     keepStored(m_ui->removeMatch, SettingsKeys::RemoveMatch);
     keepStored(paircade_album(), SettingsKeys::PaircadeAlbum);
+    connectPhotoControls();
     keepStored(m_ui->playSounds, SettingsKeys::PlaySounds);
     keepStored(m_ui->launchInFullscreen, SettingsKeys::LaunchInFullscreen);
     connect(m_ui->playSounds, &QCheckBox::clicked, this, [](bool isChecked) {
