@@ -44,6 +44,13 @@ QImage cardPhoto(int file)
 {
     using PhotoMessages::pictureEdge;
     QImage image = decoded(file);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    // Its profile knows four inks; what scales and draws knows three colours.
+    if (image.format() == QImage::Format_CMYK8888)
+        image = image.colorSpace().isValid()
+                    ? image.convertedToColorSpace(QColorSpace::SRgb, QImage::Format_RGB32)
+                    : image.convertedTo(QImage::Format_RGB32);
+#endif
     // Scaling gives one to pictures with a palette.
     const bool hasAlpha = image.hasAlphaChannel();
     const int edge = std::min(image.width(), image.height());

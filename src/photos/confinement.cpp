@@ -36,6 +36,10 @@ void limitResources()
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, 0);
     limit(RLIMIT_NOFILE, mostFiles);
+    // A complaint on an error output that is a file is no reason to end.
+    ::signal(SIGXFSZ, SIG_IGN);
+    // Waiting for a dead file system, it would not notice that the game has gone.
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL, 0, 0, 0);
 }
 
 void limitPictureTime()
