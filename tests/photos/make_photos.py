@@ -10,6 +10,7 @@ import pathlib
 import struct
 import subprocess
 import sys
+import zlib
 
 from PIL import Image, ImageDraw
 
@@ -89,7 +90,10 @@ frame = jpeg.index(b"\xff\xc0") + 5
 (bad / "huge.jpg").write_bytes(jpeg[:frame] + struct.pack(">HH", 65500, 65500) + jpeg[frame + 4:])
 bitmap = (good / "plain.bmp").read_bytes()
 (bad / "huge.bmp").write_bytes(bitmap[:18] + struct.pack("<ii", 65500, 65500) + bitmap[26:])
-Image.new("1", (65500, 65500)).save(bad / "huge.png")
+portable = (good / "plain.png").read_bytes()
+header = b"IHDR" + struct.pack(">II", 65500, 65500) + portable[24:29]
+(bad / "huge.png").write_bytes(portable[:12] + header + struct.pack(">I", zlib.crc32(header)) +
+                               portable[33:])
 Image.new("1", (9000, 6000)).save(bad / "sixty-megapixels.gif")
 Image.new("1", (9000, 6000)).save(bad / "sixty-megapixels.tif", compression="group4")
 (bad / "empty.jpg").touch()
