@@ -42,7 +42,7 @@ def drawn(width=WIDTH, height=HEIGHT):
 
 picture = drawn()
 picture.save(good / "plain.jpg", quality=95)
-picture.save(good / "progressive.jpeg", quality=95, progressive=True)
+drawn(900, 600).save(good / "progressive.jpeg", quality=95, progressive=True)
 picture.convert("CMYK").save(good / "cmyk.jpg", quality=95)
 drawn(3000, 2000).save(good / "large.JPG", quality=95)
 drawn(1500, 2900).save(good / "large.png")
@@ -81,7 +81,7 @@ for name, codec in (("film.mp4", "libx264"), ("film.webm", "libvpx")):
         "-i", good / "plain.png", "-filter_complex", "[0][1]concat,format=yuv420p", "-r", 10,
         "-c:v", codec, "-crf", 10, "-b:v", "1M", good / name)
 
-for name in ("plain.jpg", "progressive.jpeg", "plain.png", "interlaced.png", "lossless.webp",
+for name in ("large.JPG", "progressive.jpeg", "large.png", "interlaced.png", "lossless.webp",
              "tagged.tif"):
     whole = (good / name).read_bytes()
     (bad / f"cut-{name}").write_bytes(whole[:len(whole) * 6 // 10])
