@@ -44,6 +44,15 @@ QImage cardPhoto(int file)
 {
     using PhotoMessages::pictureEdge;
     QImage image = decoded(file);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    // Its profile knows four inks; what scales and draws knows three colours.
+    if (image.format() == QImage::Format_CMYK8888)
+        image = image.colorSpace().isValid()
+                    ? image.convertedToColorSpace(QColorSpace::SRgb, QImage::Format_RGB32)
+                    : image.convertedTo(QImage::Format_RGB32);
+#endif
+    // Scaling gives one to pictures with a palette.
+    const bool hasAlpha = image.hasAlphaChannel();
     const int edge = std::min(image.width(), image.height());
     if (edge == 0)
         return {};
@@ -53,6 +62,6 @@ QImage cardPhoto(int file)
             image.scaled(pictureEdge, pictureEdge, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (image.colorSpace().isValid())
         image.convertToColorSpace(QColorSpace::SRgb);
-    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                         : QImage::Format_RGB32);
+    return image.convertToFormat(hasAlpha ? QImage::Format_ARGB32_Premultiplied
+                                          : QImage::Format_RGB32);
 }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr rlim_t mostData = rlim_t{512} << 20; // bytes
 constexpr rlim_t mostTime = 30;                // seconds of processor time
-constexpr rlim_t mostPictureTime = 5;          // the same, for one picture
+constexpr rlim_t mostPictureTime = 4;          // the same, for one picture
 constexpr rlim_t mostFiles = 256;
 
 void limit(__rlimit_resource_t resource, rlim_t most)
@@ -36,6 +36,10 @@ void limitResources()
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, 0);
     limit(RLIMIT_NOFILE, mostFiles);
+    // A complaint on an error output that is a file is no reason to end.
+    ::signal(SIGXFSZ, SIG_IGN);
+    // Waiting for a dead file system, it would not notice that the game has gone.
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL, 0, 0, 0);
 }
 
 void limitPictureTime()

@@ -121,7 +121,6 @@ public:
     /// False if the visitor has had enough.
     bool folder(const Descriptor& opened, const QByteArray& path, int depth)
     {
-        m_listing.m_progress();
         if (!opened.isOpen() || depth > deepest)
             return true;
         const Entries entries = entriesOf(opened.get());
@@ -134,6 +133,7 @@ public:
                 return false;
         }
         return std::ranges::all_of(entries.folders, [&](const QByteArray& name) {
+            m_listing.m_progress();
             const Descriptor inner(
                 ::openat(opened.get(), name.constData(), readOnly | O_DIRECTORY));
             return folder(inner, joined(path, name), depth + 1);
@@ -156,6 +156,7 @@ private:
 
     bool link(const QByteArray& path, const QByteArray& name, int depth)
     {
+        m_listing.m_progress();
         const QByteArray target = m_listing.linkTarget(path, name);
         // Below the top it is listed where it is, and an upper folder is a circle.
         if (target.isEmpty() || isBelow(target, m_top) || target == m_top ||
@@ -185,6 +186,7 @@ Listing::Listing(int root, QByteArray rootPath, std::function<void()> progress)
 
 void Listing::visitAssets(const QByteArray& path, bool withFilms, const Visitor& visit) const
 {
+    m_progress();
     Walk(*this, path, withFilms, visit).folder(openBelow(m_root, path), path, 0);
 }
 

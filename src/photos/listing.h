@@ -27,7 +27,8 @@ public:
     using Visitor = std::function<bool(const QByteArray& path)>;
 
     /// `root` is the open folder of the library, `rootPath` its path without links
-    /// in it. `progress` is called now and then.
+    /// in it. `progress` is called before each step that may take long: a folder may
+    /// lie on a file system that does not answer.
     Listing(int root, QByteArray rootPath, std::function<void()> progress);
 
     /// What lies below the folder `path`; without `withFilms` pictures only.

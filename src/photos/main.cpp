@@ -41,14 +41,15 @@ public:
         if (m_paths.size() >= fullReply)
             flushPaths();
     }
-    /// Lets the game know that the listing goes on, if it has not heard for a while.
+    /// Lets the game have what was found, before the next folder, which may lie on a
+    /// dead mount; and know that the listing goes on, if it has not heard for a while.
     void showProgress()
     {
-        if (m_since.elapsed() < longestSilence)
-            return;
         flushPaths();
-        add(Kind::working);
-        send();
+        if (m_since.elapsed() >= longestSilence)
+            add(Kind::working);
+        if (!m_pending.isEmpty())
+            send();
     }
     void finish(Kind kind, QByteArrayView content = {})
     {

@@ -77,19 +77,24 @@ void PhotoFetch::list(Kind request, QByteArrayView content,
 
 std::vector<PhotoAlbum> PhotoFetch::albums(Counted counted)
 {
-    std::vector<PhotoAlbum> albums;
+    struct Listed {
+        QString title;
+        std::int64_t count;
+        QByteArray folder;
+    };
+    std::vector<Listed> listed;
     const Kind request = counted == Counted::no ? Kind::albums : Kind::countedAlbums;
-    list(request, {}, [&albums](const Frame& reply) {
+    list(request, {}, [&listed](const Frame& reply) {
         const qsizetype titleEnd = reply.content.indexOf('\0', 1);
         if (reply.kind == Kind::album && titleEnd > 0)
-            albums.push_back(
-                {.localizedTitle = QFile::decodeName(reply.content.mid(1, titleEnd - 1)),
-                 .assetCount = reply.content.front() != '\0' ? 1 : 0,
-                 .folder = reply.content.mid(titleEnd + 1)});
+            listed.push_back({QFile::decodeName(reply.content.mid(1, titleEnd - 1)),
+                              reply.content.front() != '\0' ? 1 : 0,
+                              reply.content.mid(titleEnd + 1)});
     });
-    std::ranges::stable_sort(albums, [](const PhotoAlbum& left, const PhotoAlbum& right) {
-        return sortsBefore(*left.localizedTitle, *right.localizedTitle);
-    });
+    std::ranges::stable_sort(listed, sortsBefore, &Listed::title);
+    std::vector<PhotoAlbum> albums;
+    for (const Listed& album : listed)
+        albums.push_back({album.title, album.count, album.folder});
     return albums;
 }
 
