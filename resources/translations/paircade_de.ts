@@ -89,8 +89,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <!-- Preferences -->
   <message id="play_rounds_label_singular"><extracomment>Beside the rounds control. %1: number of rounds, always 1.</extracomment>
     <source></source><translation>%1 Runde pro Spiel</translation></message>
-  <message id="play_rounds_label_plural"><extracomment>Beside the rounds control. %1: number of rounds, any but 1.</extracomment>
-    <source></source><translation>%1 Runden pro Spiel</translation></message>
+  <message id="play_rounds_label_plural" numerus="yes"><extracomment>Beside the rounds control. %1: number of rounds, any but 1.</extracomment>
+    <source></source><translation><numerusform>%1 Runde pro Spiel</numerusform><numerusform>%1 Runden pro Spiel</numerusform></translation></message>
   <message id="card_layout_1"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>4 × 3, 6 Paare</translation></message>
   <message id="card_layout_2"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>4 × 4, 8 Paare</translation></message>
   <message id="card_layout_3"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>5 × 4, 10 Paare</translation></message>

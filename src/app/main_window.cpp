@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -103,6 +104,14 @@ void MainWindow::changeEvent(QEvent* event)
         awaitFrame();
     if (wasFullScreen != isFullScreen())
         Q_EMIT fullScreenChanged(isFullScreen());
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    // Once all that lies on the window was painted as well.
+    if (!std::exchange(m_hasAppeared, true))
+        QTimer::singleShot(0, this, &MainWindow::appeared);
 }
 
 void MainWindow::showEvent(QShowEvent* event)

@@ -100,10 +100,21 @@ QPixmap CardFaces::frontSide(const QImage& picture, qreal edge, qreal devicePixe
         scaled =
             scaled.copy((scaled.width() - pixels.width()) / 2,
                         (scaled.height() - pixels.height()) / 2, pixels.width(), pixels.height());
-        QBrush brush(scaled);
+        // A brush repeats its image, and the frame may end between two pixels: a
+        // seam around it keeps the far side out of there.
+        constexpr int seam = 1;
+        QImage tile(pixels + QSize(2 * seam, 2 * seam), QImage::Format_ARGB32_Premultiplied);
+        tile.fill(Qt::transparent);
+        QPainter tilePainter(&tile);
+        tilePainter.drawImage(tile.rect(), scaled);
+        tilePainter.setCompositionMode(QPainter::CompositionMode_Source);
+        tilePainter.drawImage(seam, seam, scaled);
+        tilePainter.end();
+        QBrush brush(tile);
         brush.setTransform(
             QTransform::fromTranslate(frame.x(), frame.y())
-                .scale(frame.width() / pixels.width(), frame.height() / pixels.height()));
+                .scale(frame.width() / pixels.width(), frame.height() / pixels.height())
+                .translate(-seam, -seam));
         const qreal radius = std::max(0.0, cornerRadius - imageInset);
         painter.setBrush(brush);
         painter.drawRoundedRect(frame, radius, radius);

@@ -28,6 +28,7 @@ constexpr int lowestStill = 480;    ///< Below this height the whole column scro
 constexpr int leastHighscores = 40; ///< What of the highscores is always seen.
 constexpr int nameWidth = 180;
 constexpr int buttonWidth = 180;
+constexpr int besideButtonText = 8; ///< Room on each side, beyond the style's own.
 
 void setTextColour(QWidget* widget, QPalette::ColorRole role, const QColor& colour)
 {
@@ -104,7 +105,7 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     int widest = buttonWidth;
     for (const Row& row : m_rows) {
         if (qobject_cast<QPushButton*>(row.widget) != nullptr)
-            widest = std::max(widest, row.widget->sizeHint().width());
+            widest = std::max(widest, row.widget->sizeHint().width() + 2 * besideButtonText);
     }
     for (Row& row : m_rows) {
         if (qobject_cast<QPushButton*>(row.widget) != nullptr)
