@@ -40,6 +40,7 @@ private Q_SLOTS:
             titles << window.decks().itemText(item);
         QCOMPARE(titles, Preferences::baseCardDecks() + albums);
         QTEST(window.text(u"photosState"_s), "photos");
+        QCOMPARE(window.child<QWidget>(u"photosButton"_s).isEnabled(), status != 1);
         QCOMPARE(window.pane->fetchAvailablePhotoAlbums().count(u"Trip"_s),
                  albums.isEmpty() ? 0 : 2);
 

@@ -14,6 +14,7 @@
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
 #include "platform/user_folders.h"
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/alert_box.h"
 #include "platform/widgets/appearance.h"
 #include "platform/workspace.h"
@@ -65,7 +66,10 @@ int main(int argc, char* argv[])
     MainQueue mainQueue;
     NotificationCenter notifications;
     AudioPlayer audio;
-    const PhotoLibrary photos;
+    PhotoAccessStore photoAccess(photoAccessFile());
+    AccessQuestion accessQuestion(picturesFolder());
+    PhotoLibrary photos(photoAccess, &accessQuestion, picturesFolder(),
+                        PhotoLibrary::helperOfRunningProgram());
     AlertBox alerts;
     const Workspace workspace;
     const Platform services{defaults, bundle, mainQueue, notifications,

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/card_faces.h"
 
+#include "platform/widgets/logo.h"
 #include "ui/colours.h"
 #include "ui/device_pixels.h"
-#include "ui/logo.h"
 #include "ui/transition.h"
 
 #include <QLinearGradient>

@@ -36,7 +36,7 @@ IN_ORDER = [
     (LABEL, "Found pairs:"), (CHECK_BOX, "Found pairs: Clear them off the board"),
     (LABEL, "Deck:"), (COMBO_BOX, "Kids"),
     (IMAGE, "Pictures of the deck: Hot-air balloon, Bee, Cat, Crab, Dinosaur"),
-    (LABEL, "Photos:"), (LABEL, "No access"), (pyatspi.ROLE_PUSH_BUTTON, "Allow…"),
+    (LABEL, "Photos:"), (LABEL, "Not asked yet"), (pyatspi.ROLE_PUSH_BUTTON, "Allow…"),
     (CHECK_BOX, "Keep a Paircade album"),
     (LABEL, "Sound:"), (CHECK_BOX, "Play sounds"),
     (LABEL, "Volume:"), (SLIDER, "Volume:"), (LABEL, "50%"),

@@ -32,11 +32,6 @@ const QString highContrast = QStringLiteral("high-contrast");
 bool motionIsReduced = false;
 bool contrastIsHigh = false;
 
-bool isDark(const QPalette& palette)
-{
-    return palette.color(QPalette::Window).lightnessF() < 0.5F;
-}
-
 } // namespace
 
 Appearance::Appearance()
@@ -150,7 +145,7 @@ void Appearance::applyScheme()
 {
     const bool wantsDark = m_scheme == 1;
     const bool hasWish = wantsDark || m_scheme == 2;
-    if (!hasWish || wantsDark == isDark(m_ownPalette))
+    if (!hasWish || wantsDark == Palettes::isDark(m_ownPalette))
         QApplication::setPalette(m_ownPalette);
     else
         QApplication::setPalette(wantsDark ? Palettes::dark() : Palettes::light());

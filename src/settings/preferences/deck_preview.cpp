@@ -6,8 +6,8 @@
 #include "decks/deck_name.h"
 #include "platform/localized_text.h"
 #include "platform/platform.h"
+#include "platform/widgets/logo.h"
 #include "ui/colours.h"
-#include "ui/logo.h"
 
 #include <QAccessibleWidget>
 #include <QLinearGradient>

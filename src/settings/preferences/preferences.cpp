@@ -192,8 +192,8 @@ void Preferences::connectControls()
     const auto connectStepper = [this](QSpinBox* stepper, void (Preferences::*action)(),
                                        QLatin1String key, int most) {
         connect(stepper, &QSpinBox::valueChanged, this, [=, this] {
-            // A screen reader can change a stepper that is locked.
-            if (stepper->isEnabledTo(this))
+            // A screen reader can change a stepper that is locked, or disabled with the pane.
+            if (stepper->isEnabled())
                 (this->*action)();
             else
                 showValue(stepper, storedValue(key, most));
@@ -207,6 +207,7 @@ void Preferences::connectControls()
 
     keepStored(m_ui->removeMatch, SettingsKeys::RemoveMatch);
     keepStored(paircade_album(), SettingsKeys::PaircadeAlbum);
+    connectPhotoControls();
     keepStored(m_ui->playSounds, SettingsKeys::PlaySounds);
     keepStored(m_ui->launchInFullscreen, SettingsKeys::LaunchInFullscreen);
     connect(m_ui->playSounds, &QCheckBox::toggled, this, [](bool isChecked) {

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/logo.h"
+#include "platform/widgets/logo.h"
 
 #include "platform/application_bundle.h"
 #include "platform/platform.h"
