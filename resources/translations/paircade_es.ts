@@ -193,6 +193,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Pantalla completa</translation></message>
   <message id="menu_help"><extracomment>Menu bar.</extracomment>
     <source></source><translation>Ayuda</translation></message>
+  <message id="menu_status"><extracomment>Help menu; a screen reader says how the game stands. Nothing is shown.</extracomment>
+    <source></source><translation>Anunciar el marcador</translation></message>
   <message id="menu_keyboard"><extracomment>Help menu; shows keyboard_help.</extracomment>
     <source></source><translation>Teclado</translation></message>
   <message id="menu_about"><extracomment>Help menu; shows about_text.</extracomment>
@@ -204,6 +206,7 @@ Inicio, Fin: primera y última carta de la fila
 Ctrl+Inicio, Ctrl+Fin: primera y última carta del tablero
 Espacio, Intro: dar la vuelta a la carta
 Alt y una letra subrayada: ese control o menú
+F1: que el lector de pantalla diga el tiempo y el marcador
 Ctrl+N: nueva partida
 F11: pantalla completa
 Ctrl+coma: preferencias
@@ -233,6 +236,7 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_preferences"><extracomment>Letter underlined in menu_preferences.</extracomment><source></source><translation>P</translation></message>
   <message id="mnemonic_menu_quit"><extracomment>Letter underlined in menu_quit.</extracomment><source></source><translation>S</translation></message>
   <message id="mnemonic_menu_full_screen"><extracomment>Letter underlined in menu_full_screen.</extracomment><source></source><translation>P</translation></message>
+  <message id="mnemonic_menu_status"><extracomment>Letter underlined in menu_status.</extracomment><source></source><translation>n</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>R</translation></message>
@@ -261,8 +265,22 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
     <source></source><translation>Fila %1, columna %2, %3, pareja encontrada</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Fila %1, columna %2, vacía</translation></message>
-  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo.</extracomment>
+  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
     <source></source><translation>imagen</translation></message>
+
+  <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
+  <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
+    <source></source><translation>Cartas repartidas: %1 filas, %2 columnas</translation></message>
+  <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
+    <source></source><translation>Una pareja: %1</translation></message>
+  <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
+    <source></source><translation>No es pareja</translation></message>
+  <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
+    <source></source><translation>Otra vez boca abajo</translation></message>
+  <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
+    <source></source><translation>Parejas por encontrar: %1</translation></message>
+  <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
+    <source></source><translation>No hay ninguna partida en curso.</translation></message>
 
   <!-- Pictures of the Cyberpunk deck -->
   <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Lata</translation></message>
@@ -361,5 +379,30 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Deportivo</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Sintetizador</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Reloj</translation></message>
+
+  <!-- The question for access to the photos -->
+  <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
+    <source></source><translation>¿Jugar con tus propias fotos?</translation></message>
+  <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
+    <source></source><translation>Para las barajas de fotos, Paircade hace cartas con las imágenes de tu carpeta de imágenes. Solo las mira: no cambia ninguna y nada sale de este ordenador.</translation></message>
+  <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Todas las imágenes</translation></message>
+  <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Tu carpeta de imágenes y sus álbumes</translation></message>
+  <message id="photo_question_folder"><extracomment>Button, answer to the question; leads to a dialog.</extracomment>
+    <source></source><translation>Elegir una carpeta…</translation></message>
+  <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Solo lo que hay en ella</translation></message>
+  <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Sin acceso</translation></message>
+  <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Solo las cuatro barajas del juego</translation></message>
+  <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
+    <source></source><translation>Puedes cambiar de idea en las preferencias.</translation></message>
+  <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
+    <source></source><translation>Elegir una carpeta</translation></message>
+  <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
+  <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>E</translation></message>
+  <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>S</translation></message>
 </context>
 </TS>

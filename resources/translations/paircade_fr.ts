@@ -193,6 +193,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Plein écran</translation></message>
   <message id="menu_help"><extracomment>Menu bar.</extracomment>
     <source></source><translation>Aide</translation></message>
+  <message id="menu_status"><extracomment>Help menu; a screen reader says how the game stands. Nothing is shown.</extracomment>
+    <source></source><translation>Annoncer le score</translation></message>
   <message id="menu_keyboard"><extracomment>Help menu; shows keyboard_help.</extracomment>
     <source></source><translation>Clavier</translation></message>
   <message id="menu_about"><extracomment>Help menu; shows about_text.</extracomment>
@@ -204,6 +206,7 @@ Début, Fin : première et dernière carte de la rangée
 Ctrl+Début, Ctrl+Fin : première et dernière carte du plateau
 Espace, Entrée : retourner la carte
 Alt et une lettre soulignée : cette commande ou ce menu
+F1 : faire annoncer le temps et le score par le lecteur d’écran
 Ctrl+N : nouvelle partie
 F11 : plein écran
 Ctrl+virgule : préférences
@@ -233,6 +236,7 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_preferences"><extracomment>Letter underlined in menu_preferences.</extracomment><source></source><translation>P</translation></message>
   <message id="mnemonic_menu_quit"><extracomment>Letter underlined in menu_quit.</extracomment><source></source><translation>Q</translation></message>
   <message id="mnemonic_menu_full_screen"><extracomment>Letter underlined in menu_full_screen.</extracomment><source></source><translation>P</translation></message>
+  <message id="mnemonic_menu_status"><extracomment>Letter underlined in menu_status.</extracomment><source></source><translation>s</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>C</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>P</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>M</translation></message>
@@ -261,8 +265,22 @@ Images et sons : CC-BY-SA-4.0</translation></message>
     <source></source><translation>Rangée %1, colonne %2, %3, paire trouvée</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Rangée %1, colonne %2, vide</translation></message>
-  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo.</extracomment>
+  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
     <source></source><translation>image</translation></message>
+
+  <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
+  <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
+    <source></source><translation>Cartes distribuées : %1 rangées, %2 colonnes</translation></message>
+  <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
+    <source></source><translation>Une paire : %1</translation></message>
+  <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
+    <source></source><translation>Pas de paire</translation></message>
+  <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
+    <source></source><translation>De nouveau cachées</translation></message>
+  <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
+    <source></source><translation>Paires restantes : %1</translation></message>
+  <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
+    <source></source><translation>Aucune partie en cours.</translation></message>
 
   <!-- Pictures of the Cyberpunk deck -->
   <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Canette</translation></message>
@@ -361,5 +379,30 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Voiture de sport</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Synthétiseur</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Montre</translation></message>
+
+  <!-- The question for access to the photos -->
+  <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
+    <source></source><translation>Jouer avec vos photos ?</translation></message>
+  <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
+    <source></source><translation>Pour les jeux de photos, Paircade fait des cartes avec les images de votre dossier d’images. Il ne fait que les regarder : aucune image n’est modifiée et rien ne quitte cet ordinateur.</translation></message>
+  <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Toutes les images</translation></message>
+  <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Votre dossier d’images et ses albums</translation></message>
+  <message id="photo_question_folder"><extracomment>Button, answer to the question; leads to a dialog.</extracomment>
+    <source></source><translation>Choisir un dossier…</translation></message>
+  <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Seulement ce qui s’y trouve</translation></message>
+  <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Aucun accès</translation></message>
+  <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Seulement les quatre jeux fournis</translation></message>
+  <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
+    <source></source><translation>Vous pourrez changer d’avis dans les préférences.</translation></message>
+  <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
+    <source></source><translation>Choisir un dossier</translation></message>
+  <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
+  <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>d</translation></message>
+  <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>A</translation></message>
 </context>
 </TS>

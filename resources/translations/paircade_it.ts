@@ -193,6 +193,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Schermo intero</translation></message>
   <message id="menu_help"><extracomment>Menu bar.</extracomment>
     <source></source><translation>Aiuto</translation></message>
+  <message id="menu_status"><extracomment>Help menu; a screen reader says how the game stands. Nothing is shown.</extracomment>
+    <source></source><translation>Annuncia il punteggio</translation></message>
   <message id="menu_keyboard"><extracomment>Help menu; shows keyboard_help.</extracomment>
     <source></source><translation>Tastiera</translation></message>
   <message id="menu_about"><extracomment>Help menu; shows about_text.</extracomment>
@@ -204,6 +206,7 @@ Inizio, Fine: prima e ultima carta della riga
 Ctrl+Inizio, Ctrl+Fine: prima e ultima carta del tavolo
 Spazio, Invio: girare la carta
 Alt e una lettera sottolineata: quel controllo o menu
+F1: far leggere tempo e punteggio allo screen reader
 Ctrl+N: nuova partita
 F11: schermo intero
 Ctrl+virgola: preferenze
@@ -233,6 +236,7 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_preferences"><extracomment>Letter underlined in menu_preferences.</extracomment><source></source><translation>P</translation></message>
   <message id="mnemonic_menu_quit"><extracomment>Letter underlined in menu_quit.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_menu_full_screen"><extracomment>Letter underlined in menu_full_screen.</extracomment><source></source><translation>S</translation></message>
+  <message id="mnemonic_menu_status"><extracomment>Letter underlined in menu_status.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>I</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>M</translation></message>
@@ -261,8 +265,22 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
     <source></source><translation>Riga %1, colonna %2, %3, coppia trovata</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Riga %1, colonna %2, vuota</translation></message>
-  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo.</extracomment>
+  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
     <source></source><translation>immagine</translation></message>
+
+  <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
+  <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
+    <source></source><translation>Carte distribuite: %1 righe, %2 colonne</translation></message>
+  <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
+    <source></source><translation>Una coppia: %1</translation></message>
+  <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
+    <source></source><translation>Niente coppia</translation></message>
+  <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
+    <source></source><translation>Di nuovo coperte</translation></message>
+  <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
+    <source></source><translation>Coppie rimaste: %1</translation></message>
+  <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
+    <source></source><translation>Nessuna partita in corso.</translation></message>
 
   <!-- Pictures of the Cyberpunk deck -->
   <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Lattina</translation></message>
@@ -361,5 +379,30 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Auto sportiva</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Sintetizzatore</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Orologio</translation></message>
+
+  <!-- The question for access to the photos -->
+  <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
+    <source></source><translation>Giocare con le tue foto?</translation></message>
+  <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
+    <source></source><translation>Per i mazzi di foto, Paircade crea carte dalle immagini della tua cartella Immagini. Le guarda soltanto: nessuna immagine viene modificata e nulla lascia questo computer.</translation></message>
+  <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Tutte le immagini</translation></message>
+  <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>La cartella Immagini e i suoi album</translation></message>
+  <message id="photo_question_folder"><extracomment>Button, answer to the question; leads to a dialog.</extracomment>
+    <source></source><translation>Scegli una cartella…</translation></message>
+  <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Solo ciò che contiene</translation></message>
+  <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Nessun accesso</translation></message>
+  <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Solo i quattro mazzi del gioco</translation></message>
+  <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
+    <source></source><translation>Puoi cambiare idea nelle preferenze.</translation></message>
+  <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
+    <source></source><translation>Scegli una cartella</translation></message>
+  <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
+  <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>S</translation></message>
+  <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
 </context>
 </TS>
