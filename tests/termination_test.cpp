@@ -6,6 +6,7 @@
 #include "app/main_window.h"
 #include "app/termination.h"
 #include "game/game_status.h"
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/alert_box.h"
 #include "settings/settings_keys.h"
 #include "support/play.h"
@@ -14,6 +15,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QProcess>
 #include <QTest>
@@ -41,11 +43,23 @@ int leaveBy(const QByteArray& way)
     int posts = 0;
     platform.notifications.observe(GameStatusChangedNotification, &delegate, [&] { ++posts; });
     const bool isUnderAlert = way.startsWith("alert ");
+    const bool isUnderQuestion = way.startsWith("choice ");
+    AccessQuestion question(platform.home.path());
     if (isUnderAlert)
         game.showLocalizedAlert("ok");
+    if (isUnderQuestion) {
+        QTimer::singleShot(0, &delegate, [&] {
+            if (question.askForPhotoAccess())
+                std::abort();
+        });
+        QTimer::singleShot(100, &delegate, [] { // the choice of a folder above it
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        });
+    }
     QTimer::singleShot(200, &delegate, [&] {
-        if (isUnderAlert &&
-            qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr)
+        const QWidget* const modal = QApplication::activeModalWidget();
+        if ((isUnderAlert && qobject_cast<const QMessageBox*>(modal) == nullptr) ||
+            (isUnderQuestion && qobject_cast<const QFileDialog*>(modal) == nullptr))
             std::abort();
         if (way.endsWith("SIGTERM"))
             (void)std::raise(SIGTERM);
@@ -86,6 +100,7 @@ private Q_SLOTS:
         QTest::newRow("SIGPIPE then SIGHUP") << 0;
         QTest::newRow("end of the session") << 0;
         QTest::newRow("alert SIGTERM") << 0;
+        QTest::newRow("choice SIGTERM") << 0;
     }
 
     void noWayOutLeavesARunningGame()

@@ -89,8 +89,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <!-- Preferences -->
   <message id="play_rounds_label_singular"><extracomment>Beside the rounds control. %1: number of rounds, always 1.</extracomment>
     <source></source><translation>%1 Runde pro Spiel</translation></message>
-  <message id="play_rounds_label_plural"><extracomment>Beside the rounds control. %1: number of rounds, any but 1.</extracomment>
-    <source></source><translation>%1 Runden pro Spiel</translation></message>
+  <message id="play_rounds_label_plural" numerus="yes"><extracomment>Beside the rounds control. %1: number of rounds, any but 1.</extracomment>
+    <source></source><translation><numerusform>%1 Runde pro Spiel</numerusform><numerusform>%1 Runden pro Spiel</numerusform></translation></message>
   <message id="card_layout_1"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>4 × 3, 6 Paare</translation></message>
   <message id="card_layout_2"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>4 × 4, 8 Paare</translation></message>
   <message id="card_layout_3"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>5 × 4, 10 Paare</translation></message>
@@ -379,5 +379,30 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Sportwagen</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Synthesizer</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Armbanduhr</translation></message>
+
+  <!-- The question for access to the photos -->
+  <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
+    <source></source><translation>Mit eigenen Fotos spielen?</translation></message>
+  <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
+    <source></source><translation>Für Foto-Decks macht Paircade Karten aus den Bildern im Bilderordner. Es sieht sie nur an: Kein Bild wird verändert, und nichts verlässt diesen Rechner.</translation></message>
+  <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Alle Bilder</translation></message>
+  <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Der Bilderordner samt seinen Alben</translation></message>
+  <message id="photo_question_folder"><extracomment>Button, answer to the question; leads to a dialog.</extracomment>
+    <source></source><translation>Ordner wählen …</translation></message>
+  <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Nur, was darin liegt</translation></message>
+  <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Kein Zugriff</translation></message>
+  <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Nur die vier Decks des Spiels</translation></message>
+  <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
+    <source></source><translation>Das lässt sich in den Einstellungen jederzeit ändern.</translation></message>
+  <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
+    <source></source><translation>Ordner wählen</translation></message>
+  <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
+  <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>O</translation></message>
+  <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>K</translation></message>
 </context>
 </TS>

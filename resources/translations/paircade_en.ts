@@ -89,8 +89,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <!-- Preferences -->
   <message id="play_rounds_label_singular"><extracomment>Beside the rounds control. %1: number of rounds, always 1.</extracomment>
     <source></source><translation>%1 round per game</translation></message>
-  <message id="play_rounds_label_plural"><extracomment>Beside the rounds control. %1: number of rounds, any but 1.</extracomment>
-    <source></source><translation>%1 rounds per game</translation></message>
+  <message id="play_rounds_label_plural" numerus="yes"><extracomment>Beside the rounds control. %1: number of rounds, any but 1.</extracomment>
+    <source></source><translation><numerusform>%1 round per game</numerusform><numerusform>%1 rounds per game</numerusform></translation></message>
   <message id="card_layout_1"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>4 × 3, 6 pairs</translation></message>
   <message id="card_layout_2"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>4 × 4, 8 pairs</translation></message>
   <message id="card_layout_3"><extracomment>Name of a card layout: columns, rows, number of pairs.</extracomment><source></source><translation>5 × 4, 10 pairs</translation></message>
@@ -379,5 +379,30 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Sports car</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Synthesizer</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Watch</translation></message>
+
+  <!-- The question for access to the photos -->
+  <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
+    <source></source><translation>Play with your own photos?</translation></message>
+  <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
+    <source></source><translation>For photo decks, Paircade makes cards from the pictures in your pictures folder. It only looks at them: no picture is changed, and nothing leaves this computer.</translation></message>
+  <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>All Pictures</translation></message>
+  <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Your pictures folder and its albums</translation></message>
+  <message id="photo_question_folder"><extracomment>Button, answer to the question; leads to a dialog.</extracomment>
+    <source></source><translation>Choose a Folder…</translation></message>
+  <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Only what lies in there</translation></message>
+  <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>No Access</translation></message>
+  <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Just the four decks of the game</translation></message>
+  <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
+    <source></source><translation>You can change your mind in the preferences.</translation></message>
+  <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
+    <source></source><translation>Choose a Folder</translation></message>
+  <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
+  <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>F</translation></message>
+  <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
 </context>
 </TS>

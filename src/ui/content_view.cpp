@@ -3,8 +3,12 @@
 #include "ui/content_view.h"
 
 #include "decks/deck_look.h"
+#include "platform/main_queue.h"
+#include "platform/platform.h"
 #include "platform/widgets/announcer.h"
 #include "platform/widgets/appearance.h"
+#include "platform/widgets/held_input.h"
+#include "platform/widgets/logo.h"
 #include "ui/celebration.h"
 #include "ui/colours.h"
 #include "ui/commentary.h"
@@ -13,12 +17,11 @@
 #include "ui/invitation.h"
 #include "ui/leaving_board.h"
 #include "ui/left_sidebar.h"
-#include "ui/logo.h"
+#include "ui/plain_area.h"
 #include "ui/screen_metrics.h"
 #include "ui/start_forms.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <algorithm>
@@ -47,29 +50,6 @@ protected:
     }
 };
 
-bool isMousePress(const QEvent& event)
-{
-    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
-}
-
-/// Whether a key was pressed. One that may be a shortcut is asked about first, and
-/// comes as a key only if nobody takes it.
-bool isKeyPress(const QEvent& event)
-{
-    return event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride;
-}
-
-/// Whether a key is held down, or a press is the second of a double click. The
-/// window is told of such a press twice, as a press and as a double click.
-bool isRepeat(const QEvent& event)
-{
-    if (isKeyPress(event))
-        return static_cast<const QKeyEvent&>(event).isAutoRepeat();
-    return event.type() == QEvent::MouseButtonDblClick ||
-           static_cast<const QMouseEvent&>(event).flags().testFlag(
-               Qt::MouseEventCreatedDoubleClick);
-}
-
 } // namespace
 
 ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
@@ -87,10 +67,8 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     , m_commentary(new Commentary(*m_game, this))
     , m_announcer(new Announcer(this))
 {
-    m_boardArea->setFrameShape(QFrame::NoFrame);
-    m_boardArea->setFocusPolicy(Qt::NoFocus);
     m_boardArea->setWidgetResizable(true);
-    m_boardArea->setWidget(m_gameBoard);
+    makePlain(*m_boardArea, m_gameBoard);
     for (QWidget* const above : std::initializer_list<QWidget*>{m_header, m_divider, m_logo})
         above->raise();
     connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,
@@ -100,6 +78,10 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
             [this](int points) { m_logo->move(m_logo->x(), logoTop - points); });
 
     connect(m_game.get(), &MemoryGame::changed, this, &ContentView::noteChange);
+    connect(&platform().mainQueue, &MainQueue::heldChanged, this, [this](bool isHeld) {
+        if (!isHeld && std::exchange(m_isRefreshScheduled, false))
+            scheduleRefresh();
+    });
     QCoreApplication::instance()->installEventFilter(this);
     refresh();
 }
@@ -199,6 +181,10 @@ void ContentView::refreshIfScheduled()
 
 void ContentView::refresh()
 {
+    if (platform().mainQueue.isHeld()) { // what is shown is half of a change
+        m_isRefreshScheduled = true;
+        return;
+    }
     m_singlePlayerStartView->refresh();
     m_versusStartView->refresh();
     showLeavingBoard();

@@ -23,7 +23,8 @@ class VersusStartView;
 /// the board of the running game or the form that starts one.
 ///
 /// Shows what the game holds. However much of it changes in a turn of the event
-/// loop, the screen follows once, after it, or before the next key.
+/// loop, the screen follows once, after it, or before the next key; while the main
+/// queue is held, not before that ends.
 class ContentView : public QWidget {
     Q_OBJECT
 

@@ -10,6 +10,7 @@
 #include "settings/settings_keys.h"
 #include "ui/card_texts.h"
 #include "ui/colours.h"
+#include "ui/device_pixels.h"
 #include "ui/memory_card_view.h"
 #include "ui/screen_metrics.h"
 
@@ -178,7 +179,8 @@ void GameBoard::arrange()
 
 QRectF GameBoard::place(const MemoryCardView& tile) const
 {
-    return {QPointF(tile.pos()), QSizeF(m_cardSize, m_cardSize)};
+    const qreal edge = DevicePixels::whole(m_cardSize, devicePixelRatioF());
+    return {DevicePixels::nearest(*this, tile.pos()), QSizeF(edge, edge)};
 }
 
 void GameBoard::paintEvent(QPaintEvent* event)
