@@ -266,7 +266,7 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Linha %1, coluna %2, vazia</translation></message>
   <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
-    <source></source><translation>imagem</translation></message>
+    <source></source><translation>imagem %1</translation></message>
 
   <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
   <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
