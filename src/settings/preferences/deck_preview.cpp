@@ -85,7 +85,7 @@ QString pictureName(const CardPicture& picture)
 DeckPreview::DeckPreview(QWidget* parent)
     : QWidget(parent)
 {
-    setFixedSize(sizeHint());
+    setFixedSize(DeckPreview::sizeHint());
 }
 
 QSize DeckPreview::sizeHint() const
