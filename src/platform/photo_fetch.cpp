@@ -93,6 +93,7 @@ std::vector<PhotoAlbum> PhotoFetch::albums(Counted counted)
     });
     std::ranges::stable_sort(listed, sortsBefore, &Listed::title);
     std::vector<PhotoAlbum> albums;
+    albums.reserve(listed.size());
     for (const Listed& album : listed)
         albums.push_back({album.title, album.count, album.folder});
     return albums;
