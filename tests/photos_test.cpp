@@ -9,7 +9,6 @@
 #include <QColorSpace>
 #include <QElapsedTimer>
 #include <QProcess>
-#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/mount.h>
@@ -101,12 +100,8 @@ private Q_SLOTS:
 
     void cleanupTestCase() { std::filesystem::remove_all(m_made.path().toStdString()); }
 
-    /// No process stays behind.
-    void cleanup()
-    {
-        QCOMPARE(::waitpid(-1, nullptr, WNOHANG), -1);
-        QCOMPARE(errno, ECHILD);
-    }
+    /// No process lives on.
+    void cleanup() { QTRY_COMPARE(::waitpid(-1, nullptr, WNOHANG), -1); }
 
     void everyFormatComesUprightAndInItsColours_data()
     {
