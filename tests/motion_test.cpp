@@ -103,6 +103,20 @@ private Q_SLOTS:
         QVERIFY(canvas.pixelColor(200, 200) != QColor(Qt::white));
     }
 
+    void noFarSideOfAPictureShowsAtItsEdge()
+    {
+        QImage picture(8, 8, QImage::Format_RGB32);
+        picture.fill(Qt::blue);
+        for (int i = 0; i < 8; ++i) {
+            picture.setPixelColor(0, i, Qt::red);
+            picture.setPixelColor(i, 0, Qt::red);
+        }
+        // The frame ends at two thirds of the pixels 164.
+        const QImage face = CardFaces::frontSide(picture, 500.0 / 3, 1).toImage();
+        QVERIFY(face.pixelColor(164, 90).blue() > 5 * face.pixelColor(164, 90).red());
+        QVERIFY(face.pixelColor(90, 164).blue() > 5 * face.pixelColor(90, 164).red());
+    }
+
     void aWonBoardLeavesAndPairsSink()
     {
         GameWindow window;
@@ -175,7 +189,7 @@ private Q_SLOTS:
     void theFanAnswersANameAndFollowsItsDeck()
     {
         GameWindow window([](TestPlatform& platform) { platform.useBuiltResources(); });
-        Invitation& fan = window.child<Invitation>(QStringLiteral("invitation"));
+        auto& fan = window.child<Invitation>(QStringLiteral("invitation"));
         QVERIFY(fan.isVisible() && fan.testAttribute(Qt::WA_TransparentForMouseEvents));
         const QPoint form = window.child<QLineEdit>(QStringLiteral("playerName")).pos();
         settle();

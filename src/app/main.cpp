@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/app_delegate.h"
+#include "app/main_window.h"
 #include "app/single_instance.h"
 #include "app/termination.h"
 #include "highscores/highscore_file.h"
@@ -41,6 +42,13 @@ void installCatalogues(QTranslator& ours, QTranslator& controls, const Applicati
         QCoreApplication::installTranslator(&controls);
 }
 
+/// Takes the icon of all windows from its file.
+void loadIcon(const ApplicationBundle& bundle)
+{
+    if (const auto icon = bundle.resource(QStringLiteral("icon"), QStringLiteral("png")))
+        QApplication::setWindowIcon(QIcon(*icon));
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -71,8 +79,6 @@ int main(int argc, char* argv[])
     QTranslator ours;
     QTranslator controls;
     installCatalogues(ours, controls, bundle);
-    if (const auto icon = bundle.resource(QStringLiteral("icon"), QStringLiteral("png")))
-        QApplication::setWindowIcon(QIcon(*icon));
 
     SingleInstance instance;
     const SingleInstance::Claim claim = instance.claim(highscoreFolder(), activationToken);
@@ -80,6 +86,7 @@ int main(int argc, char* argv[])
         return 0;
     if (claim == SingleInstance::Claim::noAnswer) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(localizedText("already_running")));
+        loadIcon(bundle);
         showInformation(QStringLiteral("Paircade"), localizedText("already_running"));
         return 1;
     }
@@ -94,6 +101,9 @@ int main(int argc, char* argv[])
                          delegate.activate();
                      });
     delegate.applicationDidFinishLaunching();
+    // The first picture does not show it.
+    QObject::connect(delegate.window(), &MainWindow::appeared, delegate.window(),
+                     [&bundle] { loadIcon(bundle); });
     QObject::connect(&appearance, &Appearance::changed, delegate.contentView(),
                      &ContentView::followAppearance);
     const int status = QApplication::exec();

@@ -63,6 +63,9 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
     connect(&m_window, &MainWindow::fullScreenChanged, fullScreen, &QAction::setChecked);
 
     QMenu* const helpMenu = addMenu("menu_help");
+    QAction* const status = addItem(helpMenu, "menu_status", [this] { Q_EMIT statusChosen(); });
+    status->setShortcut(QKeySequence(Qt::Key_F1));
+    status->setAutoRepeat(false);
     addItem(helpMenu, "menu_keyboard", [] {
         showInformation(localizedText("menu_keyboard"), localizedText("keyboard_help"));
     });

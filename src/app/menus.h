@@ -22,6 +22,8 @@ public:
 Q_SIGNALS:
     /// The preferences were chosen from the menu.
     void preferencesChosen();
+    /// The player asks how the game stands.
+    void statusChosen();
 
 private:
     [[nodiscard]] QMenu* addMenu(const char* key);

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTranslator>
+#include <cstdint>
 
 /// The text of `key` in the language in use; the key itself where the table
 /// has no such text, so that a gap shows instead of hiding.
@@ -16,10 +17,17 @@
 [[nodiscard]] QString localizedText(const char* key,
                                     std::initializer_list<FormatArgument> arguments);
 
+/// The same for a text that speaks of `count` things: in the language's form for
+/// that number ("1 round", "2 rounds"), which the catalogue has as numerus forms.
+[[nodiscard]] QString localizedCount(const char* key, std::int64_t count,
+                                     std::initializer_list<FormatArgument> arguments);
+
 /// Loads from `folder` the first catalogue that the user's languages name, in
 /// their order, else the English one. False if not even that can be read; every
 /// text is then its key.
 ///
-/// `languages` are tags as QLocale::uiLanguages() gives them ("de-AT", "de").
+/// `languages` are tags as QLocale::uiLanguages() gives them ("de-AT", "de"). A
+/// catalogue is named by as much of a tag as it serves: "pt" all of Portuguese,
+/// "zh_Hans" what is written in simplified characters.
 [[nodiscard]] bool loadCatalogue(QTranslator& translator, const QString& folder,
                                  const QStringList& languages);

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int informativeWidth = 360;
+constexpr int informativeWidth = 420;
 constexpr int iconSize = 64;
 
 void showBox(QMessageBox& box, const QString& informativeText, const QString& buttonTitle)
@@ -20,6 +20,11 @@ void showBox(QMessageBox& box, const QString& informativeText, const QString& bu
     // Texts may quote names and paths, and a name may look like markup.
     for (QLabel* const label : box.findChildren<QLabel*>())
         label->setTextFormat(Qt::PlainText);
+    if (auto* const title = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        QFont font = title->font();
+        font.setBold(true);
+        title->setFont(font);
+    }
     // Else the text is squeezed into the width of the message above it.
     if (auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
         text->setMinimumWidth(informativeWidth);

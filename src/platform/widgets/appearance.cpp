@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/widgets/appearance.h"
 
+#include "platform/widgets/outlined_style.h"
 #include "platform/widgets/palettes.h"
 
 #include <QApplication>
@@ -59,6 +60,7 @@ Appearance::~Appearance()
 {
     motionIsReduced = false;
     contrastIsHigh = false;
+    applyContrast();
 }
 
 bool Appearance::isMotionReduced()
@@ -123,7 +125,20 @@ void Appearance::announce()
         return;
     motionIsReduced = isMotionReducedNow;
     contrastIsHigh = isContrastHighNow;
+    applyContrast();
     Q_EMIT changed();
+}
+
+void Appearance::applyContrast()
+{
+    const QStyle* const style = QApplication::style();
+    const bool isOutlined = qobject_cast<const OutlinedStyle*>(style) != nullptr;
+    const auto fusion = QStringLiteral("fusion");
+    if (isOutlined && !contrastIsHigh)
+        QApplication::setStyle(fusion);
+    // A desktop with a style of its own has one for high contrast, too.
+    else if (!isOutlined && contrastIsHigh && style->name() == fusion)
+        QApplication::setStyle(new OutlinedStyle);
 }
 
 void Appearance::applyScheme()

@@ -5,6 +5,7 @@
 #include <QString>
 
 /// The text of `key` for a control: with the letter of `mnemonic_<key>` marked
-/// as its mnemonic at its first place; without a mark if there is no such text
-/// or letter. "&" in the text itself stays visible.
+/// as its mnemonic at its first place. A letter that the text lacks, as those on
+/// a keyboard do in Chinese or Japanese, follows it: "終了(Q)". Without a letter
+/// there is no mark. "&" in the text itself stays visible.
 [[nodiscard]] QString controlText(const char* key);

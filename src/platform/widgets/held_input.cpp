@@ -6,15 +6,10 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-namespace {
-
 bool isKeyPress(const QEvent& event)
 {
-    // The first of the two asks whether the key is to be a shortcut.
-    return event.type() == QEvent::ShortcutOverride || event.type() == QEvent::KeyPress;
+    return event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride;
 }
-
-} // namespace
 
 bool isMousePress(const QEvent& event)
 {

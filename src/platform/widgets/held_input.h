@@ -6,6 +6,10 @@
 
 class QEvent;
 
+/// Whether a key was pressed. One that may be a shortcut is asked about first, and
+/// comes as a key only if nobody takes it.
+[[nodiscard]] bool isKeyPress(const QEvent& event);
+
 [[nodiscard]] bool isMousePress(const QEvent& event);
 
 /// Whether a key is held down, or a press is the second of a double click. The

@@ -8,18 +8,41 @@
 #include <QPainter>
 #include <QPixmapCache>
 
+namespace {
+
+/// The pixmap of the cache, or else the one that `make` makes.
+template <class Make>
+QPixmap kept(const QString& key, Make make)
+{
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = make();
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
+/// The logo as it is in its file, of which there is one of 180 and one of 360 pixels.
+QPixmap sourceFor(int pixels)
+{
+    const QString name = pixels <= 180 ? QStringLiteral("logo") : QStringLiteral("logo@2x");
+    return kept(name, [&name] {
+        const auto file = platform().bundle.resource(name, QStringLiteral("png"));
+        return QPixmap(file.value_or(QString()));
+    });
+}
+
+} // namespace
+
 QPixmap logoPixmap(qreal edge, qreal devicePixelRatio)
 {
     const int pixels = qRound(edge * devicePixelRatio);
-    const QString key = QStringLiteral("logo ") + QString::number(pixels);
-    QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
-        const auto file = platform().bundle.resource(QStringLiteral("logo"), QStringLiteral("png"));
-        QPixmap logo(file.value_or(QString()));
-        if (!logo.isNull())
-            pixmap = logo.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        QPixmapCache::insert(key, pixmap);
-    }
+    QPixmap pixmap = kept(QStringLiteral("logo ") + QString::number(pixels), [pixels] {
+        const QPixmap source = sourceFor(pixels);
+        return source.isNull()
+                   ? source
+                   : source.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    });
     pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
 }

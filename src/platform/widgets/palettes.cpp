@@ -38,7 +38,8 @@ QPalette Palettes::dark()
         palette.setColor(role, QColor::fromRgb(colour));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(0x7C8187));
-    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0x1E2023));
+    // Darker than a field in use, but an empty check box can still be seen.
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0x282B2F));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(0x4A4F55));
     return palette;
 }

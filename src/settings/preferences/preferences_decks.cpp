@@ -10,6 +10,7 @@
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
 
+#include <QSignalBlocker>
 #include <algorithm>
 #include <ui_preferences.h>
 
@@ -29,7 +30,10 @@ void Preferences::updatePaircadeAlbumState()
     paircade_album()->setEnabled(isPhotoLibrary);
     if (isPhotoLibrary)
         return;
-    paircade_album()->setChecked(false);
+    {
+        const QSignalBlocker blocker(paircade_album());
+        paircade_album()->setChecked(false);
+    }
     platform().defaults.setInteger(SettingsKeys::PaircadeAlbum, 0);
 }
 

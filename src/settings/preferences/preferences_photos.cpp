@@ -29,7 +29,7 @@ void Preferences::connectPhotoControls()
             updatePaircadeAlbumState();
         },
         Qt::QueuedConnection);
-    connect(paircade_album(), &QCheckBox::clicked, this, [](bool isChecked) {
+    connect(paircade_album(), &QCheckBox::toggled, this, [](bool isChecked) {
         if (isChecked)
             openPaircadeAlbum();
     });
