@@ -135,20 +135,20 @@ private Q_SLOTS:
 
     void badFilesYieldNoPictureAndNoHarm()
     {
-        PhotoFetch fetch = this->fetch(m_made.path());
+        PhotoFetch files = fetch(m_made.path());
         ::mkfifo(QFile::encodeName(m_made.filePath(u"bad/pipe.jpg"_s)).constData(), 0600);
         QFile::link(u"/"_s, m_made.filePath(u"bad/became-a-link"_s));
         QFile::link(u"../good/plain.jpg"_s, m_made.filePath(u"bad/link.jpg"_s));
-        PhotoAssets files{"good/../good/plain.jpg", "bad/vanished.jpg", "bad", "",
+        PhotoAssets paths{"good/../good/plain.jpg", "bad/vanished.jpg", "bad", "",
                           "bad/became-a-link" + QFile::encodeName(m_made.path()) +
                               "/good/plain.jpg"};
         for (const QString& file :
              QDir(m_made.filePath(u"bad"_s)).entryList(QDir::Files | QDir::System))
-            files.push_back("bad/" + QFile::encodeName(file));
-        QVERIFY(files.size() > 20);
-        for (const PhotoAsset& file : files)
-            QVERIFY2(fetch.image(file).isNull(), file.constData());
-        QVERIFY(!fetch.image("good/plain.jpg").isNull());
+            paths.push_back("bad/" + QFile::encodeName(file));
+        QVERIFY(paths.size() > 20);
+        for (const PhotoAsset& path : paths)
+            QVERIFY2(files.image(path).isNull(), path.constData());
+        QVERIFY(!files.image("good/plain.jpg").isNull());
     }
 
     void whatIsListed()
@@ -355,7 +355,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] static PhotoFetch fetch(const QString& folder)
     {
-        return PhotoFetch(PhotoLibrary::helperOfRunningProgram(), QFile::encodeName(folder));
+        return {PhotoLibrary::helperOfRunningProgram(), QFile::encodeName(folder)};
     }
 
     /// A fetch by the helper with faulty decoders, from a folder with two files.
@@ -364,7 +364,7 @@ private:
         const QByteArray folder = QFile::encodeName(m_made.filePath(u"faulty-"_s)) + fault.left(3);
         writeFile(folder + "/faulty.jpg", fault);
         writeFile(folder + "/fine.jpg", "fine");
-        return PhotoFetch(QStringLiteral(PAIRCADE_FAULTY_PHOTOS), folder, patience);
+        return {QStringLiteral(PAIRCADE_FAULTY_PHOTOS), folder, patience};
     }
 
     /// Fills the pictures folder: `count` pictures in the album Many, two and a film
