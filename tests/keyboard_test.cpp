@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The ways of the keyboard through every screen, and what can be seen of them.
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/palettes.h"
 #include "support/game_window.h"
 #include "ui/colours.h"
@@ -28,7 +29,7 @@ double luminance(const QColor& colour)
 
 double contrast(const QColor& one, const QColor& other)
 {
-    const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
@@ -157,6 +158,17 @@ private Q_SLOTS:
             checkMnemonics(mnemonics(preferences));
             delete &preferences;
         }
+
+        bool isAsked = false;
+        QTimer::singleShot(100, &window.window(), [&isAsked] {
+            QWidget* const question = QApplication::activeModalWidget();
+            QVERIFY(question != nullptr);
+            isAsked = true;
+            checkMnemonics(mnemonics(*question));
+            question->close();
+        });
+        QVERIFY(!AccessQuestion(QString()).askForPhotoAccess());
+        QVERIFY(isAsked);
     }
 
     void aHeldShortcutActsOnce()

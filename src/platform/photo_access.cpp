@@ -25,8 +25,8 @@ constexpr std::array answers = {
 };
 
 constexpr qint64 longestFile = 65'536; // bytes; five times the longest path, encoded
-constexpr char statusField[] = "status=";
-constexpr char folderField[] = "folder=";
+constexpr const char* statusField = "status=";
+constexpr const char* folderField = "folder=";
 
 /// The answer without what does not belong to its status; none where it is no answer.
 std::optional<PhotoAccess> checked(const PhotoAccess& access)
@@ -48,7 +48,8 @@ std::optional<PhotoAccess> answerIn(const QByteArray& contents)
         return std::nullopt;
     PhotoAccess access{answer->status};
     if (lines.size() > 1 && lines.at(1).startsWith(folderField))
-        access.folder = QByteArray::fromPercentEncoding(lines.at(1).mid(sizeof(folderField) - 1));
+        access.folder =
+            QByteArray::fromPercentEncoding(lines.at(1).mid(qsizetype(qstrlen(folderField))));
     return checked(access);
 }
 
