@@ -366,7 +366,7 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>Cubo rompicapo</translation></message>
   <message id="card_flamingo"><extracomment>Picture, 80s.</extracomment><source></source><translation>Fenicottero</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>Dischetto</translation></message>
-  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Distributore di gomme da masticare</translation></message>
+  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Distributore di chewing gum</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Computer</translation></message>
   <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Ghiacciolo</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>Macchina fotografica</translation></message>

@@ -122,7 +122,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_photos_all"><extracomment>After the caption: the game may use all pictures.</extracomment>
     <source></source><translation>すべての画像</translation></message>
   <message id="preferences_photos_only"><extracomment>After the caption: the game may use the pictures of one folder. %1: the folder’s name.</extracomment>
-    <source></source><translation>「%1」のみ</translation></message>
+    <source></source><translation>次のみ：「%1」</translation></message>
   <message id="preferences_photos_none"><extracomment>After the caption: the game may use no pictures.</extracomment>
     <source></source><translation>アクセスなし</translation></message>
   <message id="preferences_photos_allow"><extracomment>Button: lets the player allow access to the photos for the first time.</extracomment>
