@@ -359,7 +359,7 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="card_vinyl_record"><extracomment>Picture, 70s.</extracomment><source></source><translation>Schallplatte</translation></message>
 
   <!-- Pictures of the 80s deck that no deck above has -->
-  <message id="card_arcade_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Spielautomat</translation></message>
+  <message id="card_arcade_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Arcade-Automat</translation></message>
   <message id="card_bmx_bike"><extracomment>Picture, 80s.</extracomment><source></source><translation>BMX-Rad</translation></message>
   <message id="card_boombox"><extracomment>Picture, 80s.</extracomment><source></source><translation>Radiorekorder</translation></message>
   <message id="card_cassette_tape"><extracomment>Picture, 80s.</extracomment><source></source><translation>Kassette</translation></message>

@@ -20,9 +20,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="unknown_player"><extracomment>Name stored with a one-player result that has none.</extracomment>
     <source></source><translation>Onbekend</translation></message>
   <message id="start_game"><extracomment>Button of the one-player form.</extracomment>
-    <source></source><translation>Start spel</translation></message>
+    <source></source><translation>Spel starten</translation></message>
   <message id="start_versus_game"><extracomment>Button of the two-player form.</extracomment>
-    <source></source><translation>Start duel</translation></message>
+    <source></source><translation>Duel starten</translation></message>
   <message id="end_game"><extracomment>Sidebar button while a game runs.</extracomment>
     <source></source><translation>Spel stoppen</translation></message>
   <message id="versus_mode"><extracomment>Sidebar check box that switches to two players; also the heading above the versus highscores.</extracomment>
@@ -266,7 +266,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Rij %1, kolom %2, leeg</translation></message>
   <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
-    <source></source><translation>afbeelding %1</translation></message>
+    <source></source><translation>plaatje %1</translation></message>
 
   <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
   <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
@@ -278,7 +278,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
     <source></source><translation>Weer gesloten</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
-    <source></source><translation>Nog te vinden paren: %1</translation></message>
+    <source></source><translation>Resterende paren: %1</translation></message>
   <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
     <source></source><translation>Er is geen spel bezig.</translation></message>
 
@@ -293,7 +293,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="card_hover_car"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Zweefauto</translation></message>
   <message id="card_jellyfish"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Kwal</translation></message>
   <message id="card_microchip"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Microchip</translation></message>
-  <message id="card_motorcycle"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Motor</translation></message>
+  <message id="card_motorcycle"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Motorfiets</translation></message>
   <message id="card_noodle_bowl"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Kom noedels</translation></message>
   <message id="card_padlock"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Hangslot</translation></message>
   <message id="card_palm"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Palmboom</translation></message>
@@ -305,7 +305,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Wolkenkrabber</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Sneaker</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Paraplu</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Automaat</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drankautomaat</translation></message>
   <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>VR-bril</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->

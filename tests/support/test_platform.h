@@ -86,6 +86,9 @@ public:
     explicit TestPlatform(Alerts* alerts = nullptr, const QString& language = QStringLiteral("en"));
     ~TestPlatform();
 
+    /// The languages of all catalogues of the build.
+    [[nodiscard]] static QStringList languages();
+
     /// Replaces the resources by those of `resourceFolder`.
     void useResources(const QString& resourceFolder);
 
