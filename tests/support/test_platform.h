@@ -61,7 +61,7 @@ public:
     {
         return status ? *status : PhotoLibrary::authorizationStatus();
     }
-    [[nodiscard]] std::vector<PhotoAlbum> albums() const override
+    [[nodiscard]] PhotoAlbums albums() override
     {
         return status ? content : PhotoLibrary::albums();
     }
@@ -71,7 +71,7 @@ public:
     }
 
     std::optional<PhotoAuthorization> status = PhotoAuthorization::restricted; ///< None: the real.
-    std::vector<PhotoAlbum> content{};
+    PhotoAlbums content{};
     QString folder{};
 };
 
