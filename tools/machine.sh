@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Paircade authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# To be sourced: bare Debians in folders, for the tools that try the game on one. It needs
+# To be sourced: bare systems in folders, for the tools that try the game on one. It needs
 # root, on Debian. The mirror is the first one that this system's own apt uses.
 
 tools/install-packages fresh-machine
