@@ -404,5 +404,17 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>S</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Juego de parejas</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Da la vuelta a las cartas y encuentra las parejas, a solas o a dúo</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>parejas;cartas;memoria;concentración;niños;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Da la vuelta a dos cartas cada vez, recuerda dónde está cada imagen y encuentra las parejas: a solas contra el reloj o dos personas por turnos.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Hay cuatro barajas de dibujos, seis tableros de 4 × 3 a 8 × 5 y tantas rondas como quieras. Tus propias fotos también pueden ser una baraja; nunca salen del ordenador. Los mejores resultados aparecen junto al tablero. Se puede jugar por completo con el ratón, con el teclado o con un lector de pantalla.</translation></message>
 </context>
 </TS>

@@ -404,5 +404,17 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>d</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>A</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Jeu de paires</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Retournez les cartes et retrouvez les paires, en solo ou à deux</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>paires;cartes;mémoire;concentration;enfants;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Retournez deux cartes à la fois, retenez où se trouvent les images et retrouvez les paires : en solo contre la montre, ou à deux, chacun son tour.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Il y a quatre jeux de cartes dessinées, six plateaux de 4 × 3 à 8 × 5 et autant de manches que vous voulez. Vos propres photos peuvent aussi servir de cartes ; elles ne quittent jamais l’ordinateur. Les meilleurs résultats s’affichent à côté du plateau. Tout se joue à la souris, au clavier ou avec un lecteur d’écran.</translation></message>
 </context>
 </TS>

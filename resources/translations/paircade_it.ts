@@ -404,5 +404,17 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>S</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Gioco delle coppie</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Gira le carte e trova le coppie, in solitario o in due</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>coppie;carte;memoria;concentrazione;bambini;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Gira due carte alla volta, ricorda dove si trovano le immagini e trova le coppie: in solitario contro il tempo o in due a turno.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Ci sono quattro mazzi di immagini disegnate, sei tabelloni da 4 × 3 a 8 × 5 e tutte le manche che vuoi. Anche le tue foto possono diventare un mazzo; non lasciano mai il computer. I risultati migliori sono accanto al tabellone. Si può giocare interamente con il mouse, con la tastiera o con un lettore di schermo.</translation></message>
 </context>
 </TS>

@@ -404,5 +404,17 @@ Ctrl+Q：終了</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>F</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>神経衰弱ゲーム</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>カードをめくってペアをそろえるゲーム</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>ペア;カード;神経衰弱;記憶;こども;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>カードを2枚ずつめくり、絵の場所を覚えて、ペアをそろえましょう。1人でタイムに挑戦することも、2人で交代で遊ぶこともできます。</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>絵のデッキは4種類、ボードは4 × 3から8 × 5までの6種類、ラウンド数は自由です。自分の写真もデッキになります。写真がコンピューターの外に出ることはありません。最高記録はボードの横に表示されます。マウスだけでも、キーボードだけでも、スクリーンリーダーでも遊べます。</translation></message>
 </context>
 </TS>

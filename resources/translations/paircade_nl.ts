@@ -404,5 +404,17 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>M</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>G</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Paren zoeken</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Draai kaarten om en vind de paren, alleen of met zijn tweeën</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>paren;kaarten;geheugen;concentratie;kinderen;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Draai telkens twee kaarten om, onthoud waar de plaatjes liggen en vind de paren: alleen tegen de klok of met zijn tweeën om de beurt.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Er zijn vier kaartspellen met getekende plaatjes, zes borden van 4 × 3 tot 8 × 5 en zoveel rondes als je wilt. Ook je eigen foto’s kunnen een kaartspel zijn; ze verlaten de computer nooit. De beste resultaten staan naast het bord. Het hele spel is te spelen met de muis, met het toetsenbord of met een schermlezer.</translation></message>
 </context>
 </TS>

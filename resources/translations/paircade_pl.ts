@@ -404,5 +404,17 @@ Obrazki i dźwięki: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>W</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>f</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>B</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Gra w pary</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Odwracaj karty i znajduj pary, samodzielnie lub we dwoje</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>pary;karty;pamięć;koncentracja;dzieci;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Odwracaj po dwie karty, zapamiętuj, gdzie leżą obrazki, i znajduj pary: samodzielnie na czas albo we dwoje na zmianę.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Są cztery talie rysowanych obrazków, sześć plansz od 4 × 3 do 8 × 5 i tyle rund, ile chcesz. Talią mogą być też twoje własne zdjęcia; nigdy nie opuszczają komputera. Najlepsze wyniki widać obok planszy. W całą grę można grać myszą, klawiaturą lub z czytnikiem ekranu.</translation></message>
 </context>
 </TS>

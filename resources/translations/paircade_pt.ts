@@ -404,5 +404,17 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>S</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Jogo de pares</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Vire as cartas e encontre os pares, só ou a dois</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>pares;cartas;memória;concentração;crianças;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Vire duas cartas de cada vez, lembre onde estão as imagens e encontre os pares: só, contra o relógio, ou a dois, um de cada vez.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Há quatro baralhos de imagens desenhadas, seis tabuleiros de 4 × 3 a 8 × 5 e quantas rodadas você quiser. Suas próprias fotos também podem ser um baralho; elas nunca saem do computador. Os melhores resultados ficam ao lado do tabuleiro. O jogo inteiro pode ser jogado com o mouse, com o teclado ou com um leitor de tela.</translation></message>
 </context>
 </TS>

@@ -404,5 +404,17 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>m</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>I</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Hitta par</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Vänd kort och hitta paren, ensam eller två</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>par;kort;minne;koncentration;barn;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Vänd två kort i taget, kom ihåg var bilderna ligger och hitta paren: ensam mot klockan eller två spelare i tur och ordning.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Det finns fyra kortlekar med tecknade bilder, sex spelplaner från 4 × 3 till 8 × 5 och så många omgångar du vill. Även dina egna foton kan bli en kortlek; de lämnar aldrig datorn. De bästa resultaten står bredvid spelplanen. Hela spelet kan spelas med mus, med tangentbord eller med skärmläsare.</translation></message>
 </context>
 </TS>

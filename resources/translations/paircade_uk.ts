@@ -404,5 +404,17 @@ Ctrl+Q: вийти</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>У</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>В</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>Б</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Гра в пари</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Перегортайте картки та знаходьте пари самостійно чи вдвох</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>пари;картки;пам’ять;увага;діти;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Перегортайте по дві картки, запам’ятовуйте, де лежать малюнки, і знаходьте пари: самостійно на час або вдвох по черзі.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Є чотири колоди з малюнками, шість полів від 4 × 3 до 8 × 5 і стільки раундів, скільки забажаєте. Колодою можуть стати й ваші власні фотографії; вони ніколи не залишають комп’ютер. Найкращі результати видно поруч із полем. У всю гру можна грати мишею, з клавіатури або з програмою читання з екрана.</translation></message>
 </context>
 </TS>

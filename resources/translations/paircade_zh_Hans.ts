@@ -404,5 +404,17 @@ Ctrl+Q：退出</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>F</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>配对游戏</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>翻开纸牌，找出成对的图片，一人或两人皆可</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>配对;纸牌;记忆;翻牌;儿童;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>每次翻开两张牌，记住图片的位置，找出成对的图片：一个人挑战时间，或两个人轮流进行。</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>共有四副手绘牌组、从 4 × 3 到 8 × 5 的六种牌面，轮数任选。您自己的照片也可以作为牌组，照片绝不会离开这台电脑。最佳成绩显示在牌面旁边。全程可用鼠标、键盘或屏幕阅读器操作。</translation></message>
 </context>
 </TS>
