@@ -7,6 +7,7 @@
 #include "settings/settings_keys.h"
 #include "support/game_window.h"
 #include "support/output_of.h"
+#include "support/program.h"
 
 #include <QProcess>
 #include <csignal>
@@ -347,29 +348,10 @@ private Q_SLOTS:
                               bin});
         QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
 
-        QProcess game;
-        auto environment = QProcessEnvironment::systemEnvironment();
-        for (const auto& [name, folder] : {std::pair(u"HOME"_s, u"."_s),
-                                           {u"XDG_CONFIG_HOME"_s, u"config"_s},
-                                           {u"XDG_DATA_HOME"_s, u"data"_s},
-                                           {u"XDG_RUNTIME_DIR"_s, u"runtime"_s}})
-            environment.insert(name, home.filePath(folder));
-        game.setProcessEnvironment(environment);
-        game.start(home.filePath(u"bin/paircade"_s), QStringList());
-        QVERIFY(game.waitForStarted());
-        // From here on the signal to end is answered as soon as the window is up.
-        const auto catchesTerm = [&] {
-            const QByteArray status = contentsOf(u"/proc/%1/status"_s.arg(game.processId()));
-            const QByteArray mask = status.mid(status.indexOf("SigCgt:") + 8, 16);
-            return (mask.toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1U) != 0;
-        };
-        const bool isUp = QTest::qWaitFor(
-            [&] { return catchesTerm() || game.state() == QProcess::NotRunning; }, 15'000);
-        QVERIFY2(isUp && catchesTerm(), game.readAllStandardError());
-        game.terminate();
-        QVERIFY2(game.waitForFinished(15'000), "the game hangs");
-        QCOMPARE(game.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(game.exitCode(), 0);
+        Program game(home.path(), home.filePath(u"bin/paircade"_s));
+        QVERIFY2(game.comesUp(), game.process.readAllStandardError());
+        game.signal(SIGTERM);
+        QVERIFY(game.endsWell());
     }
 };
 
