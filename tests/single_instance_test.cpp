@@ -163,6 +163,15 @@ private Q_SLOTS:
               "claim");
     }
 
+    void ofManyStartsAtOnceOneStays_data()
+    {
+        QTest::addColumn<int>("round");
+        bool isSet = false;
+        const int asked = qEnvironmentVariableIntValue("PAIRCADE_STARTS", &isSet);
+        for (int round = 1; round <= (isSet ? asked : 1); ++round)
+            QTest::addRow("round %d", round) << round;
+    }
+
     void ofManyStartsAtOnceOneStays()
     {
         std::list<Program> programs;

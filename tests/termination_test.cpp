@@ -14,7 +14,8 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QMessageBox>
+#include <QDir>
+#include <QMenu>
 #include <QProcess>
 #include <QTest>
 #include <QTimer>
@@ -23,9 +24,47 @@
 
 namespace {
 
-/// Starts a game, leaves by `way` and prints what that brought about.
-int leaveBy(const QByteArray& way)
+/// Brings up what `under` names, as the player would find it when the end comes.
+void bringUp(const QByteArray& under, AppDelegate& delegate, TestPlatform& platform)
 {
+    MemoryGame& game = delegate.contentView()->game();
+    const auto choose = [&delegate](const char* item) {
+        auto* const action = delegate.window()->findChild<QAction*>(QString::fromLatin1(item));
+        QTimer::singleShot(0, action, &QAction::trigger);
+    };
+    if (under == "alert") {
+        game.showLocalizedAlert("ok");
+    } else if (under == "two alerts and a start") {
+        game.showLocalizedAlert("ok");
+        game.showLocalizedAlert("ok");
+        QTimer::singleShot(50, &game, &MemoryGame::startNewGame);
+    } else if (under == "report's alert over a miss") {
+        miss(game);
+        QDir().mkpath(platform.home.filePath(QStringLiteral("data/Paircade/highscores.html/x")));
+        choose("menu_open_highscores_html");
+    } else if (under == "about box") {
+        choose("menu_about");
+    } else if (under == "preferences") {
+        choose("menu_preferences");
+    } else if (under == "open menu") {
+        auto* const menu = delegate.window()->findChild<QMenu*>(QStringLiteral("menu_game"));
+        QTimer::singleShot(0, menu, [menu] { menu->exec(); });
+    } else if (under == "half a turn") {
+        QTimer::singleShot(150, &game, [&game] { flip(game, 0); });
+    } else if (under == "won board") {
+        QTimer::singleShot(100, &game, [&game] {
+            while (game.isGameActive())
+                findPair(game);
+        });
+    }
+}
+
+/// Starts a game, leaves by `way` under what stands before the colon, if anything, and
+/// prints what that brought about.
+int leaveBy(const QByteArray& fullWay)
+{
+    const QByteArray way = fullWay.mid(fullWay.indexOf(": ") < 0 ? 0 : fullWay.indexOf(": ") + 2);
+    const QByteArray under = fullWay.chopped(way.size()).replace(": ", "");
     QApplication::setQuitOnLastWindowClosed(false);
     AlertBox alerts;
     TestPlatform platform(&alerts);
@@ -40,14 +79,14 @@ int leaveBy(const QByteArray& way)
 
     int posts = 0;
     platform.notifications.observe(GameStatusChangedNotification, &delegate, [&] { ++posts; });
-    const bool isUnderAlert = way.startsWith("alert ");
-    if (isUnderAlert)
-        game.showLocalizedAlert("ok");
+    bringUp(under, delegate, platform);
     QTimer::singleShot(200, &delegate, [&] {
-        if (isUnderAlert &&
-            qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr)
+        posts = 0;
+        const bool isModal = QApplication::activeModalWidget() != nullptr;
+        if (isModal != (under.contains("alert") || under == "about box") ||
+            (QApplication::activePopupWidget() != nullptr) != (under == "open menu"))
             std::abort();
-        if (way.endsWith("SIGTERM"))
+        if (way == "SIGTERM")
             (void)std::raise(SIGTERM);
         else if (way == "SIGINT")
             (void)std::raise(SIGINT);
@@ -63,9 +102,9 @@ int leaveBy(const QByteArray& way)
     QTimer::singleShot(5000, [] { std::abort(); });
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();
-    std::printf("posts %d, GameIsActive %lld, entries %lld", posts,
+    std::printf("posts %d, GameIsActive %lld, entries %d", posts,
                 static_cast<long long>(platform.defaults->integer(SettingsKeys::GameIsActive)),
-                static_cast<long long>(platform.readHighscoreFile().size()));
+                int(platform.readHighscoreFile().count("\"id\"")));
     std::fflush(stdout);
     return status;
 }
@@ -85,7 +124,13 @@ private Q_SLOTS:
         QTest::newRow("SIGINT") << 0;
         QTest::newRow("SIGPIPE then SIGHUP") << 0;
         QTest::newRow("end of the session") << 0;
-        QTest::newRow("alert SIGTERM") << 0;
+        for (const char* const under :
+             {"alert", "two alerts and a start", "report's alert over a miss", "about box",
+              "preferences", "open menu", "half a turn", "won board"})
+            QTest::addRow("%s: SIGTERM", under) << 0;
+        QTest::newRow("preferences: close") << 1;
+        QTest::newRow("half a turn: close") << 1;
+        QTest::newRow("won board: menu") << 0;
     }
 
     void noWayOutLeavesARunningGame()
@@ -98,7 +143,9 @@ private Q_SLOTS:
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 0);
         QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()),
-                 QStringLiteral("posts %1, GameIsActive 0, entries 0").arg(posts));
+                 QStringLiteral("posts %1, GameIsActive 0, entries %2")
+                     .arg(posts)
+                     .arg(QByteArray(QTest::currentDataTag()).startsWith("won") ? 1 : 0));
     }
 };
 

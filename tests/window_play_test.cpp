@@ -45,7 +45,8 @@ private Q_SLOTS:
         QVERIFY(m_window->child<QLineEdit>(QStringLiteral("playerName")).isVisible());
         QVERIFY(!m_window->card(0).isVisible());
         QCOMPARE(m_window->focused(), QStringLiteral("playerName"));
-        QCOMPARE(m_window->text(QStringLiteral("bestTimes1")), QStringLiteral("1. Ann – 00:00"));
+        QCOMPARE(m_window->text(QStringLiteral("bestTimes1")),
+                 QStringLiteral("1. Ann – ") + m_window->game().formattedElapsedTime());
         QCOMPARE(m_window->text(QStringLiteral("bestFailures1")), QStringLiteral("1. Ann – 0"));
         QVERIFY(m_window->platform.readHighscoreFile().contains("\"playerName\": \"Ann\""));
 
@@ -97,6 +98,39 @@ private Q_SLOTS:
         m_window->clickCard(hiddenCard(m_window->game()));
         QCOMPARE(faceUpCards(m_window->game()), 2);
         QTRY_COMPARE_WITH_TIMEOUT(faceUpCards(m_window->game()), 0, 2000);
+    }
+
+    void aMissTurnsBackUnderOrAfterAnAlert_data()
+    {
+        QTest::addColumn<bool>("isReport");
+        QTest::addColumn<std::ptrdiff_t>("openMeanwhile");
+        QTest::newRow("of the report, shown at once") << true << std::ptrdiff_t{0};
+        QTest::newRow("queued, holding back what falls due") << false << std::ptrdiff_t{2};
+    }
+
+    void aMissTurnsBackUnderOrAfterAnAlert()
+    {
+        QFETCH(bool, isReport);
+        m_window->startGame();
+        m_window->clickCard(0);
+        m_window->clickCard(otherCard(m_window->game(), 0, false));
+        std::ptrdiff_t open = -1;
+        QTimer::singleShot(1500, qApp, [&] {
+            open = faceUpCards(m_window->game());
+            whenAlerted([](QMessageBox&) {});
+        });
+        if (isReport) { // a folder in its place
+            QVERIFY(QDir().mkpath(m_window->platform.highscoreFile().replace(
+                QStringLiteral(".json"), QStringLiteral(".html/x"))));
+            m_window->game().openHighscoresHTML();
+        } else {
+            m_window->game().showLocalizedAlert("ok");
+        }
+        QTRY_VERIFY(open >= 0 && QApplication::activeModalWidget() == nullptr);
+        QTEST(open, "openMeanwhile");
+        QTRY_COMPARE(faceUpCards(m_window->game()), std::ptrdiff_t{0});
+        m_window->clickPair();
+        QCOMPARE(faceUpCards(m_window->game()), std::ptrdiff_t{2});
     }
 
     void aVersusGameByMouse()
