@@ -91,10 +91,11 @@ void compareRest(const std::string& state, double memoryTarget, const Program& g
 
 void waitInGame(const std::string& sounds, const Program& game, QProcessEnvironment home)
 {
-    home.insert(QStringLiteral("PROBE_SECONDS"), QStringLiteral("10"));
+    // Long enough to hold the closing of the sound device, which the last pair opened.
+    home.insert(QStringLiteral("PROBE_SECONDS"), QStringLiteral("30"));
     const Moments moments = run(game, home);
-    printRow("processor time in 10 s, running game, sounds " + sounds,
-             moments.at("waited").cpu - moments.at("rested").cpu, "ms", 10);
+    printRow("processor time in 30 s, running game, sounds " + sounds,
+             moments.at("waited").cpu - moments.at("rested").cpu, "ms", 30);
 }
 
 } // namespace

@@ -101,14 +101,14 @@ void results()
         if (game.bestTimeScores().size() != MemoryGame::maxHighscoreEntries)
             qFatal("the results are not ranked");
         appended.push_back(timed(CLOCK_MONOTONIC, [] {
-            HighscoreEntries all = readHighscores(highscoreFile()).value();
+            HighscoreEntries all = readHighscores(highscoreFile()).entries.value();
             all.push_back(soloEntry(QStringLiteral("Ann"), {}));
             if (!writeHighscores(highscoreFile(), all))
                 qFatal("the result cannot be written");
         }));
         finished.push_back(timed(CLOCK_MONOTONIC, [&game] { game.finishSoloGame(); }));
         reported.push_back(timed(CLOCK_MONOTONIC, [&game] { game.openHighscoresHTML(); }));
-        if (readHighscores(highscoreFile())->size() != records + 2)
+        if (readHighscores(highscoreFile()).entries->size() != records + 2)
             qFatal("the results were not appended");
     }
     printRow("10,000 results: read and rank", median(ranked), "ms", 100);

@@ -6,12 +6,19 @@
 #include "platform/widgets/palettes.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QLineEdit>
 #include <QMap>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
+#include <algorithm>
+#include <array>
 #include <memory>
 
 namespace {
@@ -109,7 +116,7 @@ private Q_SLOTS:
         QFETCH(bool, isMotionReduced);
         Portal portal;
         portal.settings[{group, key}] = value;
-        const Appearance appearance;
+        const Appearance followed;
         QTest::qWait(150);
         QTEST(isDark(), "isDark");
         QCOMPARE(Appearance::isContrastHigh(), isContrastHigh);
@@ -133,6 +140,36 @@ private Q_SLOTS:
         portal.change(appearance, QStringLiteral("reduced-motion"), 0U);
         QTRY_VERIFY(!Appearance::isMotionReduced());
         QCOMPARE(changes.size(), 2);
+    }
+
+    void highContrastOutlinesControls()
+    {
+        Portal portal;
+        portal.settings[{appearance, QStringLiteral("color-scheme")}] = 1U;
+        const Appearance followed;
+        QTRY_VERIFY(isDark());
+        const QPalette before = QApplication::palette();
+        QCheckBox box;
+        QComboBox menu;
+        QSpinBox stepper;
+        QLineEdit field;
+        QPushButton button;
+        const std::array<QWidget*, 5> controls{&box, &menu, &stepper, &field, &button};
+        const auto outlined = [&] {
+            return std::ranges::count_if(controls, [](QWidget* control) {
+                const QImage picture = control->grab().toImage();
+                const QRgb text = control->palette().color(QPalette::WindowText).rgb();
+                // The left edge, away from the corners.
+                return picture.pixel(0, picture.height() / 2) == text;
+            });
+        };
+        QCOMPARE(outlined(), 0);
+        portal.change(appearance, QStringLiteral("contrast"), 1U);
+        QTRY_COMPARE(outlined(), 5);
+        QCOMPARE(QApplication::palette(), before);
+        portal.change(appearance, QStringLiteral("contrast"), 0U);
+        QTRY_COMPARE(outlined(), 0);
+        QCOMPARE(QApplication::palette(), before);
     }
 
     void withoutAPortalNothingChanges()

@@ -4,6 +4,7 @@
 #include "decks/deck_name.h"
 #include "platform/application_bundle.h"
 #include "platform/user_defaults.h"
+#include "support/files.h"
 #include "support/output_of.h"
 
 #include <QDir>
@@ -16,13 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("the test cannot write its file");
-}
 
 /// Saves a picture `width` pixels wide, which tells it apart from others.
 void writePicture(const QString& path, int width = 3)
@@ -142,6 +136,17 @@ private Q_SLOTS:
         for (const auto& entry : std::filesystem::directory_iterator(m_deck.toStdString()))
             listed << QString::fromStdString(entry.path().stem().string());
         QCOMPARE(load(), listed.join(u' '));
+    }
+
+    void aNameNeedNotBeUtf8()
+    {
+        writePicture(m_deck + u"b.png"_s);
+        writePicture(m_deck + u"c.png"_s);
+        const std::filesystem::path deck(m_deck.toStdString());
+        std::filesystem::rename(deck / "b.png", deck / "b\xff\xe4.png");
+        const QString names = load();
+        std::filesystem::remove_all(deck); // QTemporaryDir cannot
+        QCOMPARE(names, u"b\ufffd\ufffd c"_s);
     }
 
     void aLinkCountsByItsOwnName()

@@ -7,6 +7,7 @@
 #include "highscores/highscore_file.h"
 #include "platform/user_folders.h"
 #include "settings/settings_keys.h"
+#include "support/files.h"
 #include "support/play.h"
 #include "support/test_platform.h"
 
@@ -25,19 +26,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("the test cannot write its file");
-}
 
 /// A running game of two players, whose end stores a result and a setting.
 class Game {
@@ -66,7 +54,7 @@ public:
     void rewind() const
     {
         platform.writeHighscoreFile(m_results);
-        write(settingsFile(), m_settings);
+        writeFile(settingsFile(), m_settings);
     }
 
     /// Whether settings and results are the old or the new whole, after an end that
@@ -129,7 +117,7 @@ public:
         QFile::remove(filler);
         struct statvfs disk {};
         ::statvfs(m_folder.constData(), &disk);
-        write(filler, QByteArray(qsizetype(disk.f_bavail * disk.f_bsize) - bytes, 'x'));
+        writeFile(filler, QByteArray(qsizetype(disk.f_bavail * disk.f_bsize) - bytes, 'x'));
     }
     void setReadOnly(bool isReadOnly) const
     {

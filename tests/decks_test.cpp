@@ -87,7 +87,8 @@ Points lightOf(const QImage& picture)
             const int place = i / step % edge;
             const auto at = [&](int offset) {
                 const int other = std::clamp(place + offset, 0, edge - 1);
-                return sharp[std::size_t(i + (other - place) * step)];
+                const int there = i + (other - place) * step;
+                return sharp[std::size_t(there)];
             };
             light[std::size_t(i)] = (at(-2) + 4 * at(-1) + 6 * at(0) + 4 * at(1) + at(2)) / 16;
         }

@@ -229,6 +229,13 @@ private Q_SLOTS:
         m_game->restoreHighscores();
         QVERIFY(m_game->canRestoreHighscores() && m_game->bestTimeScores().empty());
         QVERIFY(QDir(m_platform->highscoreFile()).removeRecursively());
+        // Results that memory does not suffice for are not replaced either.
+        constexpr qint64 tooLong = qint64{1} << 42;
+        m_platform->writeHighscoreFile("[");
+        QVERIFY(QFile::resize(m_platform->highscoreFile(), tooLong));
+        m_game->restoreHighscores();
+        QCOMPARE(QFileInfo(m_platform->highscoreFile()).size(), tooLong);
+        QVERIFY(QFile::remove(m_platform->highscoreFile()));
         m_game->restoreHighscores();
         QCOMPARE(storedEntries().size(), 1U);
     }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "highscores/highscore_file.h"
+#include "support/files.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,6 +11,7 @@
 #include <csignal>
 #include <memory>
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -36,20 +38,13 @@ QByteArray fileAnd(const QByteArray& member)
     return fileWith("2}", "2," + member + '}');
 }
 
-void writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("the test cannot write its file");
-}
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
+
+/// Else the address sanitizer ends a process that asks for more memory than it gets.
+extern "C" const char* __asan_default_options() // NOLINT(bugprone-reserved-identifier)
+{
+    return "allocator_may_return_null=1";
+}
 
 class HighscoreFileTest : public QObject {
     Q_OBJECT
@@ -115,7 +110,7 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, json);
         writeFile(highscoreFile(), json);
-        const auto entries = readHighscores(highscoreFile());
+        const auto entries = readHighscores(highscoreFile()).entries;
         QTEST(entries ? static_cast<int>(entries->size()) : unreadable, "count");
     }
 
@@ -253,7 +248,7 @@ private Q_SLOTS:
                 .replace('\'', '"');
         QVERIFY(writeHighscores(highscoreFile(), {entry, won}));
         QCOMPARE(contentsOf(highscoreFile()), expected);
-        const auto reread = readHighscores(highscoreFile());
+        const auto reread = readHighscores(highscoreFile()).entries;
         QVERIFY(reread && !reread->front().secondPlayerName);
         QCOMPARE(reread->front().playerName, entry.playerName);
         QCOMPARE(encodeHighscores(*reread), expected);
@@ -264,12 +259,12 @@ private Q_SLOTS:
 
     void theFolderIsMadeOnUse()
     {
-        QVERIFY(!readHighscores(highscoreFolder() + u"/none.json"_s));
+        QVERIFY(!readHighscores(highscoreFolder() + u"/none.json"_s).entries);
         QCOMPARE(highscoreFolder(), m_home->filePath(u"not/yet/Paircade"_s));
         QCOMPARE(highscoreFile(), highscoreFolder() + u"/highscores.json"_s);
         QVERIFY(QDir(highscoreFolder()).exists());
-        QVERIFY(!readHighscores(highscoreFile()));
-        QVERIFY(!readHighscores(QString()) && !writeHighscores(QString(), {}));
+        QVERIFY(!readHighscores(highscoreFile()).entries);
+        QVERIFY(!readHighscores(QString()).entries && !writeHighscores(QString(), {}));
     }
 
     void whereNothingCanBeWrittenNothingIs()
@@ -279,13 +274,13 @@ private Q_SLOTS:
             init();
             QDir().mkpath(QFileInfo(m_home->filePath(file)).path());
             writeFile(m_home->filePath(file), "mine");
-            QVERIFY(!readHighscores(highscoreFile()));
+            QVERIFY(!readHighscores(highscoreFile()).entries);
             QVERIFY(!writeHighscores(highscoreFile(), {HighscoreEntry{}}));
             QCOMPARE(contentsOf(m_home->filePath(file)), QByteArray("mine"));
         }
         init();
         QDir().mkpath(highscoreFile() + u"/inside"_s);
-        QVERIFY(!readHighscores(highscoreFile()));
+        QVERIFY(!readHighscores(highscoreFile()).entries);
         QVERIFY(!writeHighscores(highscoreFile(), {HighscoreEntry{}}));
         QVERIFY(QDir(highscoreFile() + u"/inside"_s).exists());
     }
@@ -312,9 +307,30 @@ private Q_SLOTS:
         QCOMPARE(contentsOf(highscoreFile()), old);
 
         QVERIFY(writeHighscores(highscoreFile(), HighscoreEntries(10'000)));
-        QCOMPARE(readHighscores(highscoreFile())->size(), std::size_t{10'000});
+        QCOMPARE(readHighscores(highscoreFile()).entries->size(), std::size_t{10'000});
         QCOMPARE(reader.readAll(), old);
         QCOMPARE(QDir(highscoreFolder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void wantOfMemoryIsNoFaultOfTheFile()
+    {
+        QVERIFY(!readHighscores(highscoreFile()).isTooLarge);
+        writeFile(highscoreFile(), "{");
+        QVERIFY(!readHighscores(highscoreFile()).isTooLarge);
+
+        // Half as much as the file is long, and it is no list of results.
+        constexpr qint64 length = qint64{300} << 20;
+        QVERIFY(QFile::resize(highscoreFile(), length));
+        rlimit before{};
+        ::getrlimit(RLIMIT_AS, &before);
+        const auto used = contentsOf(u"/proc/self/statm"_s).split(' ')[0].toULongLong() *
+                          static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
+        const rlimit little{used + length / 2, before.rlim_max};
+        ::setrlimit(RLIMIT_AS, &little);
+        const StoredHighscores stored = readHighscores(highscoreFile());
+        ::setrlimit(RLIMIT_AS, &before);
+        QVERIFY(stored.isTooLarge && !stored.entries);
+        QVERIFY(!readHighscores(highscoreFile()).isTooLarge);
     }
 
 private:

@@ -63,9 +63,9 @@ private Q_SLOTS:
         QTest::addColumn<Ranking>("ranking");
         QTest::addColumn<HighscoreEntries>("entries");
         QTest::addColumn<QByteArray>("names");
-        const auto row = [](const char* name, Ranking ranking, HighscoreEntries entries,
+        const auto row = [](const char* name, Ranking ranking, const HighscoreEntries& entries,
                             const char* names) {
-            QTest::newRow(name) << ranking << std::move(entries) << QByteArray(names);
+            QTest::newRow(name) << ranking << entries << QByteArray(names);
         };
         row("no records", rankByTime, {}, "");
         row("time: fastest first, any 64-bit value", rankByTime,

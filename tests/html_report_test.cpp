@@ -7,6 +7,7 @@
 #include "highscores/html_report.h"
 #include "platform/date_text.h"
 #include "settings/settings_keys.h"
+#include "support/files.h"
 #include "support/test_platform.h"
 
 #include <QDesktopServices>
@@ -31,12 +32,6 @@ QString between(const QString& page, const QString& from, const QString& to)
 QString rowsIn(const QString& page)
 {
     return between(page, u"<tbody>\n"_s, u"\n                </tbody>"_s);
-}
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// Texts of which each one is escaped in a way of its own.

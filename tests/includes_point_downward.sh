@@ -7,8 +7,9 @@
 set -euo pipefail
 cd "$1"
 
-# From top to bottom.
-layers=(app settings/preferences ui platform/widgets game highscores decks game/rules settings platform)
+# From top to bottom. First come modules, which nobody includes.
+layers=(platform/sdl app settings/preferences ui platform/widgets game highscores decks game/rules settings platform
+    photos/films photos photos/protocol)
 
 # rank FILE: the place of its folder in the order; nothing for an unknown folder.
 rank() {

@@ -189,7 +189,7 @@ private Q_SLOTS:
     void theFanAnswersANameAndFollowsItsDeck()
     {
         GameWindow window([](TestPlatform& platform) { platform.useBuiltResources(); });
-        Invitation& fan = window.child<Invitation>(QStringLiteral("invitation"));
+        auto& fan = window.child<Invitation>(QStringLiteral("invitation"));
         QVERIFY(fan.isVisible() && fan.testAttribute(Qt::WA_TransparentForMouseEvents));
         const QPoint form = window.child<QLineEdit>(QStringLiteral("playerName")).pos();
         settle();

@@ -8,6 +8,7 @@
 #include "platform/trim.h"
 #include "platform/user_defaults.h"
 #include "settings/default_settings.h"
+#include "support/files.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,13 +25,6 @@ namespace {
 
 constexpr QLatin1String key{"Key"};
 constexpr QLatin1String deckKey{"Deck"};
-
-void writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("the test cannot write its file");
-}
 
 /// What a program of its own would find in the settings file `path`: QSettings
 /// shares what it keeps of one path among all its objects.

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One game at a time uses a folder; a second start brings the first to the front.
 #include "app/single_instance.h"
+#include "support/broken_world.h"
+#include "support/files.h"
 #include "support/program.h"
 
 #include <QCoreApplication>
@@ -16,7 +18,6 @@
 #include <cstdio>
 #include <list>
 #include <sys/syscall.h>
-#include <unistd.h>
 
 namespace {
 bool isFlockKnown = true;
@@ -123,19 +124,17 @@ private Q_SLOTS:
 
     void aLockThatCannotBeRemovedKeepsNobodyFromPlaying()
     {
-        if (::geteuid() != 0)
-            QSKIP("only root can leave a lock to somebody else");
         // Of a process long gone, in a folder that the player cannot write.
-        QFile lock(m_home->filePath(QStringLiteral("data/lock")));
-        QVERIFY(lock.open(QIODevice::WriteOnly));
-        lock.write("4194303\npaircade\n" + QSysInfo::machineHostName().toUtf8() + '\n');
-        lock.close();
-        const auto readable = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
-                              QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
-        QFile::setPermissions(m_home->filePath(QStringLiteral("data")), readable);
-        QFile::setPermissions(m_home->path(), readable | QFile::WriteOwner);
-        QCOMPARE(claimElsewhere(QStringLiteral("data"), {}, QStringLiteral("--claim-as-nobody")),
-                 int(SingleInstance::Claim::isOurs));
+        const QString data = m_home->filePath(QStringLiteral("data"));
+        writeFile(data + QStringLiteral("/lock"),
+                  "4194303\npaircade\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+        forbid(data, 0555);
+        {
+            const AsNobody nobody(m_home->path());
+            QCOMPARE(SingleInstance().claim(data, {}), SingleInstance::Claim::isOurs);
+        }
+        forbid(data, 0755);
+        QVERIFY(contentsOf(data + QStringLiteral("/lock")).startsWith("4194303"));
     }
 
     void whereLocksAreUnknownALivingGameIsStillFound_data()
@@ -155,12 +154,13 @@ private Q_SLOTS:
     void whereLocksAreUnknownALivingGameIsStillFound()
     {
         QFETCH(QByteArray, lock);
-        if (!lock.isEmpty()) {
-            QFile file(m_home->filePath(QStringLiteral("data/lock")));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(lock) == lock.size());
-        }
-        QTEST(claimElsewhere(QStringLiteral("data"), {}, QStringLiteral("--claim-without-flock")),
-              "claim");
+        QFETCH(int, claim);
+        if (!lock.isEmpty())
+            writeFile(m_home->filePath(QStringLiteral("data/lock")), lock);
+        isFlockKnown = false;
+        const auto made = SingleInstance().claim(m_home->filePath(QStringLiteral("data")), {});
+        isFlockKnown = true;
+        QCOMPARE(int(made), claim);
     }
 
     void ofManyStartsAtOnceOneStays_data()
@@ -227,7 +227,7 @@ private Q_SLOTS:
     }
 
 private:
-    /// A home whose runtime folder only its owner enters.
+    /// The home, with a runtime folder that only its owner enters.
     [[nodiscard]] QString runtimeHome() const
     {
         const QString runtime = m_home->filePath(QStringLiteral("runtime"));
@@ -245,14 +245,14 @@ private:
     }
 
     /// Claims the folder `path` of the home in another process.
-    int claimElsewhere(const QString& path, const QByteArray& token,
-                       const QString& how = QStringLiteral("--claim"))
+    int claimElsewhere(const QString& path, const QByteArray& token)
     {
         QProcess child;
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_ACTIVATION_TOKEN"), QString::fromLatin1(token));
         child.setProcessEnvironment(environment);
-        child.start(QCoreApplication::applicationFilePath(), {how, m_home->filePath(path)});
+        child.start(QCoreApplication::applicationFilePath(),
+                    {QStringLiteral("--claim"), m_home->filePath(path)});
         if (!QTest::qWaitFor([&] { return child.state() == QProcess::NotRunning; }, 10'000))
             return -1;
         return child.exitCode();
@@ -264,11 +264,7 @@ private:
 int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
-    constexpr uid_t nobody = 65534;
-    if (argc == 3 && qstrcmp(argv[1], "--claim-as-nobody") == 0 && ::setuid(nobody) == 0)
-        return int(SingleInstance().claim(QString::fromLocal8Bit(argv[2]), {}));
-    isFlockKnown = argc != 3 || qstrcmp(argv[1], "--claim-without-flock") != 0;
-    if (argc == 3 && qstrncmp(argv[1], "--claim", 7) == 0)
+    if (argc == 3 && qstrcmp(argv[1], "--claim") == 0)
         return int(SingleInstance().claim(QString::fromLocal8Bit(argv[2]),
                                           SingleInstance::ownActivationToken()));
     if (argc == 3 && qstrcmp(argv[1], "--hold") == 0) {

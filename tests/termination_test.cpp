@@ -6,6 +6,7 @@
 #include "app/main_window.h"
 #include "app/termination.h"
 #include "game/game_status.h"
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/alert_box.h"
 #include "settings/settings_keys.h"
 #include "support/play.h"
@@ -15,6 +16,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QMenu>
 #include <QProcess>
 #include <QTest>
@@ -42,6 +44,14 @@ void bringUp(const QByteArray& under, AppDelegate& delegate, TestPlatform& platf
         miss(game);
         QDir().mkpath(platform.home.filePath(QStringLiteral("data/Paircade/highscores.html/x")));
         choose("menu_open_highscores_html");
+    } else if (under.startsWith("photo question")) {
+        platform.defaults->setString(SettingsKeys::CardDeck, QStringLiteral("iPhoto"));
+        QTimer::singleShot(20, &game, &MemoryGame::startNewGame);
+        if (under.endsWith("folder")) { // the choice of one above it
+            QTimer::singleShot(120, &game, [] {
+                QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+            });
+        }
     } else if (under == "about box") {
         choose("menu_about");
     } else if (under == "preferences") {
@@ -70,6 +80,18 @@ int leaveBy(const QByteArray& fullWay)
     TestPlatform platform(&alerts);
     platform.useResources(platform.home.path());
     makeDeck(platform.home.path(), QStringLiteral("Cyberpunk"), 6);
+    AccessQuestion question(platform.home.path());
+    PhotoLibrary photos(platform.photoAccess, &question, platform.home.path(),
+                        PhotoLibrary::helperOfRunningProgram());
+    const Platform services{*platform.defaults,
+                            ::platform().bundle,
+                            platform.mainQueue,
+                            platform.notifications,
+                            platform.audio,
+                            photos,
+                            alerts,
+                            platform.openedFiles};
+    usePlatform(&services);
     const Termination termination;
     AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
@@ -82,8 +104,11 @@ int leaveBy(const QByteArray& fullWay)
     bringUp(under, delegate, platform);
     QTimer::singleShot(200, &delegate, [&] {
         posts = 0;
-        const bool isModal = QApplication::activeModalWidget() != nullptr;
-        if (isModal != (under.contains("alert") || under == "about box") ||
+        const QWidget* const modal = QApplication::activeModalWidget();
+        const bool isModal = modal != nullptr;
+        if (isModal !=
+                (under.contains("alert") || under == "about box" || under.startsWith("photo")) ||
+            (under.endsWith("folder") != (qobject_cast<const QFileDialog*>(modal) != nullptr)) ||
             (QApplication::activePopupWidget() != nullptr) != (under == "open menu"))
             std::abort();
         if (way == "SIGTERM")
@@ -128,6 +153,9 @@ private Q_SLOTS:
              {"alert", "two alerts and a start", "report's alert over a miss", "about box",
               "preferences", "open menu", "half a turn", "won board"})
             QTest::addRow("%s: SIGTERM", under) << 0;
+        // No answer, so that the round that asked is not dealt, which is announced.
+        QTest::newRow("photo question: SIGTERM") << 1;
+        QTest::newRow("photo question, choosing a folder: SIGTERM") << 1;
         QTest::newRow("preferences: close") << 1;
         QTest::newRow("half a turn: close") << 1;
         QTest::newRow("won board: menu") << 0;

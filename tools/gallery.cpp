@@ -5,6 +5,7 @@
 #include "gallery_camera.h"
 #include "gallery_play.h"
 #include "platform/localized_text.h"
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/palettes.h"
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
@@ -19,6 +20,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -56,6 +58,7 @@ public:
         menus();
         messages();
         preferences();
+        photos();
         deckSheets();
     }
 
@@ -349,6 +352,44 @@ private:
             m_camera.keep(*pane.cardDeck_dropdown()->view()->window(), u"preferences-decks"_s);
             pane.cardDeck_dropdown()->hidePopup();
         }
+    }
+
+    /// An album of 24 landscapes, each with a sky, a hill and a sun of its own.
+    static void paintPhotos(const TestPlatform& platform)
+    {
+        const QString album = platform.home.filePath(u"Pictures/Hills"_s);
+        QDir().mkpath(album);
+        for (int i = 0; i < 24; ++i) {
+            QImage photo(640, 480, QImage::Format_RGB32);
+            photo.fill(QColor::fromHsv(i * 15, 110, 235));
+            QPainter painter(&photo);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(QColor::fromHsv((i * 15 + 40) % 360, 60, 255));
+            painter.drawEllipse(120 + 35 * (i % 10), 60 + 15 * (i % 7), 90, 90);
+            painter.setBrush(QColor::fromHsv((i * 15 + 180) % 360, 150, 130));
+            painter.drawEllipse(-300 + 60 * (i % 8), 280, 900, 600);
+            photo.save(album + u"/%1.jpg"_s.arg(i));
+        }
+    }
+
+    void photos()
+    {
+        const Window shown = window(u"iPhoto"_s, 4, shortNames, [](TestPlatform& platform) {
+            paintPhotos(platform);
+            platform.photos.status.reset();
+            platform.photoAccess.write({PhotoAuthorization::authorized});
+        });
+        QTimer::singleShot(100, qApp, [this, &shown] {
+            QWidget* const question = QApplication::activeModalWidget();
+            m_camera.keep(*question, u"question"_s);
+            keep(*shown, u"under-the-question"_s);
+            question->close();
+        });
+        (void)AccessQuestion(shown->resources()).askForPhotoAccess();
+        startSolo(*shown);
+        findPairs(*shown, 4);
+        m_camera.wait(1);
+        keep(*shown, u"board-photos"_s);
     }
 
     void deckSheets()

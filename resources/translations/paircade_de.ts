@@ -193,6 +193,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Vollbild</translation></message>
   <message id="menu_help"><extracomment>Menu bar.</extracomment>
     <source></source><translation>Hilfe</translation></message>
+  <message id="menu_status"><extracomment>Help menu; a screen reader says how the game stands. Nothing is shown.</extracomment>
+    <source></source><translation>Spielstand ansagen</translation></message>
   <message id="menu_keyboard"><extracomment>Help menu; shows keyboard_help.</extracomment>
     <source></source><translation>Tastatur</translation></message>
   <message id="menu_about"><extracomment>Help menu; shows about_text.</extracomment>
@@ -204,6 +206,7 @@ Pos1, Ende: erste und letzte Karte der Reihe
 Strg+Pos1, Strg+Ende: erste und letzte Karte des Spielfelds
 Leertaste, Eingabetaste: Karte umdrehen
 Alt und unterstrichener Buchstabe: dieses Bedienelement oder Menü
+F1: Zeit und Spielstand vom Bildschirmleser ansagen lassen
 Strg+N: neues Spiel
 F11: Vollbild
 Strg+Komma: Einstellungen
@@ -233,6 +236,7 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_preferences"><extracomment>Letter underlined in menu_preferences.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_menu_quit"><extracomment>Letter underlined in menu_quit.</extracomment><source></source><translation>P</translation></message>
   <message id="mnemonic_menu_full_screen"><extracomment>Letter underlined in menu_full_screen.</extracomment><source></source><translation>V</translation></message>
+  <message id="mnemonic_menu_status"><extracomment>Letter underlined in menu_status.</extracomment><source></source><translation>S</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>b</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>R</translation></message>
@@ -261,8 +265,22 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
     <source></source><translation>Reihe %1, Spalte %2, %3, Paar gefunden</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Reihe %1, Spalte %2, leer</translation></message>
-  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo.</extracomment>
-    <source></source><translation>Bild</translation></message>
+  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
+    <source></source><translation>Bild %1</translation></message>
+
+  <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
+  <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
+    <source></source><translation>Karten ausgeteilt: %1 Reihen, %2 Spalten</translation></message>
+  <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
+    <source></source><translation>Ein Paar: %1</translation></message>
+  <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
+    <source></source><translation>Kein Paar</translation></message>
+  <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
+    <source></source><translation>Wieder verdeckt</translation></message>
+  <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
+    <source></source><translation>Verbleibende Paare: %1</translation></message>
+  <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
+    <source></source><translation>Es läuft kein Spiel.</translation></message>
 
   <!-- Pictures of the Cyberpunk deck -->
   <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Getränkedose</translation></message>
@@ -361,5 +379,30 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Sportwagen</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Synthesizer</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Armbanduhr</translation></message>
+
+  <!-- The question for access to the photos -->
+  <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
+    <source></source><translation>Mit eigenen Fotos spielen?</translation></message>
+  <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
+    <source></source><translation>Für Foto-Decks macht Paircade Karten aus den Bildern im Bilderordner. Es sieht sie nur an: Kein Bild wird verändert, und nichts verlässt diesen Rechner.</translation></message>
+  <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Alle Bilder</translation></message>
+  <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Der Bilderordner samt seinen Alben</translation></message>
+  <message id="photo_question_folder"><extracomment>Button, answer to the question; leads to a dialog.</extracomment>
+    <source></source><translation>Ordner wählen …</translation></message>
+  <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Nur, was darin liegt</translation></message>
+  <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>Kein Zugriff</translation></message>
+  <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Nur die vier Decks des Spiels</translation></message>
+  <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
+    <source></source><translation>Das lässt sich in den Einstellungen jederzeit ändern.</translation></message>
+  <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
+    <source></source><translation>Ordner wählen</translation></message>
+  <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
+  <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>O</translation></message>
+  <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>K</translation></message>
 </context>
 </TS>

@@ -193,6 +193,8 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Full Screen</translation></message>
   <message id="menu_help"><extracomment>Menu bar.</extracomment>
     <source></source><translation>Help</translation></message>
+  <message id="menu_status"><extracomment>Help menu; a screen reader says how the game stands. Nothing is shown.</extracomment>
+    <source></source><translation>Announce the Score</translation></message>
   <message id="menu_keyboard"><extracomment>Help menu; shows keyboard_help.</extracomment>
     <source></source><translation>Keyboard</translation></message>
   <message id="menu_about"><extracomment>Help menu; shows about_text.</extracomment>
@@ -204,6 +206,7 @@ Home, End: first and last card of the row
 Ctrl+Home, Ctrl+End: first and last card of the board
 Space, Return: turn the card
 Alt and an underlined letter: that control or menu
+F1: have a screen reader say time and score
 Ctrl+N: new game
 F11: full screen
 Ctrl+comma: preferences
@@ -233,6 +236,7 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_preferences"><extracomment>Letter underlined in menu_preferences.</extracomment><source></source><translation>P</translation></message>
   <message id="mnemonic_menu_quit"><extracomment>Letter underlined in menu_quit.</extracomment><source></source><translation>Q</translation></message>
   <message id="mnemonic_menu_full_screen"><extracomment>Letter underlined in menu_full_screen.</extracomment><source></source><translation>F</translation></message>
+  <message id="mnemonic_menu_status"><extracomment>Letter underlined in menu_status.</extracomment><source></source><translation>S</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>K</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>R</translation></message>
@@ -261,8 +265,22 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
     <source></source><translation>Row %1, column %2, %3, pair found</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Row %1, column %2, empty</translation></message>
-  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo.</extracomment>
-    <source></source><translation>picture</translation></message>
+  <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
+    <source></source><translation>picture %1</translation></message>
+
+  <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
+  <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
+    <source></source><translation>Cards dealt: %1 rows, %2 columns</translation></message>
+  <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
+    <source></source><translation>A pair: %1</translation></message>
+  <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
+    <source></source><translation>Not a pair</translation></message>
+  <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
+    <source></source><translation>Face down again</translation></message>
+  <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
+    <source></source><translation>Pairs left: %1</translation></message>
+  <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
+    <source></source><translation>No game is running.</translation></message>
 
   <!-- Pictures of the Cyberpunk deck -->
   <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drinks can</translation></message>
@@ -361,5 +379,30 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Sports car</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Synthesizer</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Watch</translation></message>
+
+  <!-- The question for access to the photos -->
+  <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
+    <source></source><translation>Play with your own photos?</translation></message>
+  <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
+    <source></source><translation>For photo decks, Paircade makes cards from the pictures in your pictures folder. It only looks at them: no picture is changed, and nothing leaves this computer.</translation></message>
+  <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>All Pictures</translation></message>
+  <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Your pictures folder and its albums</translation></message>
+  <message id="photo_question_folder"><extracomment>Button, answer to the question; leads to a dialog.</extracomment>
+    <source></source><translation>Choose a Folder…</translation></message>
+  <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Only what lies in there</translation></message>
+  <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
+    <source></source><translation>No Access</translation></message>
+  <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
+    <source></source><translation>Just the four decks of the game</translation></message>
+  <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
+    <source></source><translation>You can change your mind in the preferences.</translation></message>
+  <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
+    <source></source><translation>Choose a Folder</translation></message>
+  <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
+  <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>F</translation></message>
+  <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
 </context>
 </TS>

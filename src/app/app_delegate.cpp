@@ -14,6 +14,7 @@
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
 #include "ui/content_view.h"
+#include "ui/focus_ring.h"
 
 #include <QApplication>
 
@@ -35,10 +36,12 @@ void AppDelegate::applicationDidFinishLaunching()
     createDefaultSettings(platform().defaults);
     m_contentView = new ContentView(std::make_unique<MemoryGame>());
 
+    m_focusRing = std::make_unique<FocusRing>();
     auto window = std::make_unique<MainWindow>();
     window->setCentralWidget(m_contentView);
     const auto* const menus = new Menus(*window, m_contentView->game());
     connect(menus, &Menus::preferencesChosen, this, &AppDelegate::showPreferences);
+    connect(menus, &Menus::statusChosen, m_contentView, &ContentView::tellStatus);
     window->setContentSize(sizeForCurrentLayout());
     window->centre();
     window->shouldClose = [this] { return windowShouldClose(); };

@@ -10,6 +10,7 @@
 #include <memory>
 
 class ContentView;
+class FocusRing;
 class MainWindow;
 class Preferences;
 
@@ -52,6 +53,7 @@ private:
     [[nodiscard]] bool windowShouldClose();
 
     std::unique_ptr<MainWindow> m_window{};
+    std::unique_ptr<FocusRing> m_focusRing{};
     ContentView* m_contentView = nullptr;  ///< Owned by the window.
     QPointer<Preferences> m_preferences{}; ///< Owned by the window while they are open.
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/app_delegate.h"
+#include "app/main_window.h"
 #include "app/single_instance.h"
 #include "app/termination.h"
 #include "highscores/highscore_file.h"
@@ -13,6 +14,7 @@
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
 #include "platform/user_folders.h"
+#include "platform/widgets/access_question.h"
 #include "platform/widgets/alert_box.h"
 #include "platform/widgets/appearance.h"
 #include "platform/workspace.h"
@@ -40,6 +42,13 @@ void installCatalogues(QTranslator& ours, QTranslator& controls, const Applicati
         QCoreApplication::installTranslator(&controls);
 }
 
+/// Takes the icon of all windows from its file.
+void loadIcon(const ApplicationBundle& bundle)
+{
+    if (const auto icon = bundle.resource(QStringLiteral("icon"), QStringLiteral("png")))
+        QApplication::setWindowIcon(QIcon(*icon));
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -57,7 +66,10 @@ int main(int argc, char* argv[])
     MainQueue mainQueue;
     NotificationCenter notifications;
     AudioPlayer audio;
-    const PhotoLibrary photos;
+    PhotoAccessStore photoAccess(photoAccessFile());
+    AccessQuestion accessQuestion(picturesFolder());
+    PhotoLibrary photos(photoAccess, &accessQuestion, picturesFolder(),
+                        PhotoLibrary::helperOfRunningProgram());
     AlertBox alerts;
     const Workspace workspace;
     const Platform services{defaults, bundle, mainQueue, notifications,
@@ -67,8 +79,6 @@ int main(int argc, char* argv[])
     QTranslator ours;
     QTranslator controls;
     installCatalogues(ours, controls, bundle);
-    if (const auto icon = bundle.resource(QStringLiteral("icon"), QStringLiteral("png")))
-        QApplication::setWindowIcon(QIcon(*icon));
 
     SingleInstance instance;
     const SingleInstance::Claim claim = instance.claim(highscoreFolder(), activationToken);
@@ -76,6 +86,7 @@ int main(int argc, char* argv[])
         return 0;
     if (claim == SingleInstance::Claim::noAnswer) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(localizedText("already_running")));
+        loadIcon(bundle);
         showInformation(QStringLiteral("Paircade"), localizedText("already_running"));
         return 1;
     }
@@ -90,6 +101,9 @@ int main(int argc, char* argv[])
                          delegate.activate();
                      });
     delegate.applicationDidFinishLaunching();
+    // The first picture does not show it.
+    QObject::connect(delegate.window(), &MainWindow::appeared, delegate.window(),
+                     [&bundle] { loadIcon(bundle); });
     QObject::connect(&appearance, &Appearance::changed, delegate.contentView(),
                      &ContentView::followAppearance);
     const int status = QApplication::exec();

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -86,7 +87,8 @@ void MainWindow::toggleFullScreen()
 
 void MainWindow::liftLimits()
 {
-    setMinimumSize(0, 0);
+    // With 0 the layout's own minimum would hold, which may exceed the screen.
+    setMinimumSize(1, 1);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
@@ -103,6 +105,14 @@ void MainWindow::changeEvent(QEvent* event)
         awaitFrame();
     if (wasFullScreen != isFullScreen())
         Q_EMIT fullScreenChanged(isFullScreen());
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    // Once all that lies on the window was painted as well.
+    if (!std::exchange(m_hasAppeared, true))
+        QTimer::singleShot(0, this, &MainWindow::appeared);
 }
 
 void MainWindow::showEvent(QShowEvent* event)

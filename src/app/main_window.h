@@ -32,9 +32,14 @@ public:
 Q_SIGNALS:
     void fullScreenChanged(bool isFullScreen);
 
+    /// The window was painted for the first time. What its picture does not show
+    /// may be read from now on.
+    void appeared();
+
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -44,6 +49,7 @@ private:
     void liftLimits();
     [[nodiscard]] QSize frameSize() const { return frameGeometry().size() - geometry().size(); }
 
+    bool m_hasAppeared = false;
     QSize m_contentSize{};
     QSize m_settledFrame{};
     QTimer m_frameWatch{};

@@ -5,10 +5,13 @@
 #include "app/main_window.h"
 #include "game/memory_game.h"
 #include "platform/localized_text.h"
+#include "platform/main_queue.h"
+#include "platform/platform.h"
 #include "platform/widgets/alert_box.h"
 #include "platform/widgets/control_text.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
@@ -18,7 +21,11 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
     : QObject(&window)
     , m_window(window)
     , m_game(game)
+    , m_items(new QActionGroup(this))
 {
+    m_items->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+    connect(&platform().mainQueue, &MainQueue::heldChanged, m_items, &QActionGroup::setDisabled);
+
     QMenu* const gameMenu = addMenu("menu_game");
     m_newGame = addItem(gameMenu, "menu_new_game", [this] {
         // The choice may come before the item is disabled.
@@ -56,6 +63,9 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
     connect(&m_window, &MainWindow::fullScreenChanged, fullScreen, &QAction::setChecked);
 
     QMenu* const helpMenu = addMenu("menu_help");
+    QAction* const status = addItem(helpMenu, "menu_status", [this] { Q_EMIT statusChosen(); });
+    status->setShortcut(QKeySequence(Qt::Key_F1));
+    status->setAutoRepeat(false);
     addItem(helpMenu, "menu_keyboard", [] {
         showInformation(localizedText("menu_keyboard"), localizedText("keyboard_help"));
     });
@@ -78,7 +88,7 @@ QMenu* Menus::addMenu(const char* key)
 
 QAction* Menus::addItem(QMenu* menu, const char* key, const std::function<void()>& action)
 {
-    QAction* const item = menu->addAction(controlText(key));
+    QAction* const item = m_items->addAction(menu->addAction(controlText(key)));
     item->setObjectName(QString::fromLatin1(key));
     connect(item, &QAction::triggered, this, action);
     return item;

@@ -8,9 +8,11 @@
 class MainWindow;
 class MemoryGame;
 class QAction;
+class QActionGroup;
 class QMenu;
 
-/// The menu bar of the main window.
+/// The menu bar of the main window. Nothing can be chosen while the main queue is
+/// held, not even by a screen reader.
 class Menus : public QObject {
     Q_OBJECT
 
@@ -20,6 +22,8 @@ public:
 Q_SIGNALS:
     /// The preferences were chosen from the menu.
     void preferencesChosen();
+    /// The player asks how the game stands.
+    void statusChosen();
 
 private:
     [[nodiscard]] QMenu* addMenu(const char* key);
@@ -29,6 +33,7 @@ private:
 
     MainWindow& m_window;
     MemoryGame& m_game;
+    QActionGroup* m_items;
     QAction* m_newGame = nullptr;
     QAction* m_endGame = nullptr;
     QAction* m_restoreHighscores = nullptr;

@@ -11,6 +11,7 @@
 #include <QImageReader>
 #include <algorithm>
 #include <array>
+#include <fcntl.h>
 #include <filesystem>
 #include <optional>
 #include <utility>
@@ -22,9 +23,16 @@ namespace {
 // allows would take gigabytes.
 constexpr int longestEdge = 2048;
 
-/// The names of the files in `folder` that can be pictures, in the order of
-/// the listing; none if the folder cannot be listed.
-std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
+/// A file of a deck. A name need not be UTF-8, and only the path as it is opens such a
+/// file; the text is what its name is sorted and shown by.
+struct PictureFile {
+    std::filesystem::path path{};
+    QString name{};
+};
+
+/// The files in `folder` that can be pictures, in the order of the listing; none if
+/// the folder cannot be listed.
+std::optional<std::vector<PictureFile>> pictureFiles(const QString& folder)
 {
     static constexpr std::array extensions{QLatin1String("png"), QLatin1String("jpg"),
                                            QLatin1String("jpeg")};
@@ -35,26 +43,31 @@ std::optional<std::vector<QString>> pictureFileNames(const QString& folder)
     const std::filesystem::path path(QFile::encodeName(folder).toStdString());
     std::error_code error;
     std::filesystem::directory_iterator entry(path, error);
-    std::vector<QString> names;
+    std::vector<PictureFile> files;
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         const QString name = QFile::decodeName(entry->path().filename().c_str());
         const QString extension = QFileInfo(name).suffix().toLower();
         if (!name.startsWith(QLatin1Char('.')) &&
             std::ranges::find(extensions, extension) != extensions.end())
-            names.push_back(name);
+            files.push_back({entry->path(), name});
     }
     if (error)
         return std::nullopt;
-    return names;
+    return files;
 }
 
 /// The picture in the file `path`; null if there is none, or one too large to decode.
-QImage decodedPicture(const QString& path)
+QImage decodedPicture(const std::filesystem::path& path)
 {
     // Opening a pipe waits for whoever writes into it, and a device may never end.
-    if (!QFileInfo(path).isFile())
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
         return {};
-    QImage image = QImageReader(path).read();
+    QFile file;
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle))
+        return {};
+    QImage image = QImageReader(&file).read();
     if (image.width() > longestEdge || image.height() > longestEdge)
         image =
             image.scaled(longestEdge, longestEdge, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -66,18 +79,17 @@ QString folderOf(const QString& resources, const QString& deck)
     return resources + QStringLiteral("/Cards/") + deck;
 }
 
-/// Reads the files `names` of `folder` in order of name, until `most` of them
-/// have turned out to be pictures.
-CardPictures readPictures(const QString& folder, std::vector<QString> names, std::size_t most)
+/// Reads `files` in order of name, until `most` of them have turned out to be pictures.
+CardPictures readPictures(std::vector<PictureFile> files, std::size_t most)
 {
-    std::ranges::stable_sort(names, sortsBefore);
+    std::ranges::stable_sort(files, sortsBefore, &PictureFile::name);
     CardPictures pictures;
-    for (const QString& name : names) {
+    for (const PictureFile& file : files) {
         if (pictures.size() >= most)
             break;
-        QImage image = decodedPicture(folder + QLatin1Char('/') + name);
+        QImage image = decodedPicture(file.path);
         if (!image.isNull())
-            pictures.push_back({std::move(image), QFileInfo(name).completeBaseName()});
+            pictures.push_back({std::move(image), QFileInfo(file.name).completeBaseName()});
     }
     return pictures;
 }
@@ -96,12 +108,12 @@ CardPictures loadBundleDeck(const ApplicationBundle& bundle, const QString& deck
         return {};
     }
     const QString folder = folderOf(*resources, deck);
-    const auto names = pictureFileNames(folder);
-    if (!names) {
+    const auto files = pictureFiles(folder);
+    if (!files) {
         logLine(QStringLiteral("Ordnerinhalt konnte nicht gelesen werden: ") + folder);
         return {};
     }
-    return readPictures(folder, *names, names->size());
+    return readPictures(*files, files->size());
 }
 
 CardPictures firstBundlePictures(const ApplicationBundle& bundle, const QString& deck,
@@ -110,7 +122,6 @@ CardPictures firstBundlePictures(const ApplicationBundle& bundle, const QString&
     const auto resources = bundle.resourceFolder();
     if (deck.isEmpty() || !resources)
         return {};
-    const QString folder = folderOf(*resources, deck);
-    const auto names = pictureFileNames(folder);
-    return names ? readPictures(folder, *names, count) : CardPictures();
+    const auto files = pictureFiles(folderOf(*resources, deck));
+    return files ? readPictures(*files, count) : CardPictures();
 }

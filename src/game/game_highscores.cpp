@@ -7,6 +7,7 @@
 #include "platform/debug_log.h"
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
+#include "platform/within_memory.h"
 #include "settings/settings_keys.h"
 
 #include <QFile>
@@ -18,16 +19,22 @@ QString MemoryGame::highscoreFileURL() const
 
 HighscoreEntries MemoryGame::readHighscoreFile() const
 {
-    return readHighscores(highscoreFileURL()).value_or(HighscoreEntries());
+    return readHighscores(highscoreFileURL()).entries.value_or(HighscoreEntries());
 }
 
 void MemoryGame::appendHighscoreEntry(const HighscoreEntry& entry)
 {
-    HighscoreEntries entries = readHighscoreFile();
-    entries.push_back(entry);
-    // A failed write is not reported; the lists show the record all the same.
-    (void)writeHighscores(highscoreFileURL(), entries);
-    updateHighscoreLists(entries);
+    const QString file = highscoreFileURL();
+    // Where memory does not suffice for the text of all records, nothing is stored or shown.
+    (void)withinMemory([&] {
+        StoredHighscores stored = readHighscores(file);
+        HighscoreEntries entries = std::move(stored.entries).value_or(HighscoreEntries());
+        entries.push_back(entry);
+        // A failed write is not reported; the lists show the record all the same.
+        if (!stored.isTooLarge)
+            (void)writeHighscores(file, entries);
+        updateHighscoreLists(entries);
+    });
 }
 
 void MemoryGame::updateHighscoreLists(const HighscoreEntries& entries)
@@ -48,7 +55,8 @@ void MemoryGame::updateHighscoreLists(const HighscoreEntries& entries)
 
 void MemoryGame::reloadHighscoresForCurrentSettings()
 {
-    updateHighscoreLists(readHighscoreFile());
+    if (!withinMemory([&] { updateHighscoreLists(readHighscoreFile()); }))
+        updateHighscoreLists({});
 }
 
 void MemoryGame::resetHighscores()
@@ -65,18 +73,23 @@ void MemoryGame::resetHighscores()
         logLine(QStringLiteral("Fehler beim Zurücksetzen der Highscores: ") + file.errorString());
         return;
     }
-    m_removedEntries.insert(m_removedEntries.end(), removed.begin(), removed.end());
+    (void)withinMemory(
+        [&] { m_removedEntries.insert(m_removedEntries.end(), removed.begin(), removed.end()); });
 }
 
 void MemoryGame::restoreHighscores()
 {
-    HighscoreEntries entries = m_removedEntries;
-    const HighscoreEntries present = readHighscoreFile();
-    entries.insert(entries.end(), present.begin(), present.end());
-    if (!writeHighscores(highscoreFileURL(), entries))
-        return;
-    updateHighscoreLists(entries);
-    m_removedEntries.clear();
+    const QString file = highscoreFileURL();
+    (void)withinMemory([&] {
+        HighscoreEntries entries = m_removedEntries;
+        const StoredHighscores present = readHighscores(file);
+        if (present.entries)
+            entries.insert(entries.end(), present.entries->begin(), present.entries->end());
+        if (present.isTooLarge || !writeHighscores(file, entries))
+            return;
+        m_removedEntries.clear();
+        updateHighscoreLists(entries);
+    });
 }
 
 void MemoryGame::storeCurrentResult()

@@ -10,15 +10,23 @@
 #include "platform/date_text.h"
 #include "platform/localized_text.h"
 #include "platform/platform.h"
+#include "platform/within_memory.h"
 #include "platform/workspace.h"
+
+#include <cerrno>
 
 void MemoryGame::openHighscoresHTML()
 {
     const QString folder = highscoreFolderURL();
     // Without a folder there is no file to write, least of all one at the root.
     const QString file = folder.isEmpty() ? folder : folder + QStringLiteral("/highscores.html");
-    if (const auto failure =
-            writeAtomically(file, buildHighscoresHTML(loadAllHighscoreEntries()).toUtf8()))
+    std::optional<QString> failure;
+    if (!withinMemory([&] {
+            const QString page = buildHighscoresHTML(loadAllHighscoreEntries());
+            failure = writeAtomically(file, page.toUtf8());
+        }))
+        failure = qt_error_string(ENOMEM);
+    if (failure)
         platform().alerts.warn(localizedText("highscores_export_error_title"), *failure,
                                localizedText("ok"));
     else

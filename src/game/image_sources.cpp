@@ -3,9 +3,13 @@
 // Where the pictures of a round come from.
 #include "decks/bundle_deck.h"
 #include "decks/deck_name.h"
+#include "decks/photo_deck.h"
 #include "game/memory_game.h"
 #include "platform/photo_library.h"
 #include "platform/platform.h"
+#include "platform/trim.h"
+
+#include <utility>
 
 QString MemoryGame::cardDeck() const
 {
@@ -22,9 +26,37 @@ CardPictures MemoryGame::loadImagesFromBundle() const
     return loadBundleDeck(platform().bundle, cardDeck());
 }
 
+std::optional<PhotoAlbum> MemoryGame::fetchPhotoAlbum(const QString& named) const
+{
+    return albumTitled(platform().photos.startFetch()->albums(), trimmedText(named));
+}
+
 CardPictures MemoryGame::loadImagesFromPhotoLibrary()
 {
-    if (!allowsReading(platform().photos.authorizationStatus()))
+    PhotoLibrary& photos = platform().photos;
+    PhotoAuthorization status = photos.authorizationStatus();
+    if (status == PhotoAuthorization::notDetermined)
+        status = photos.requestAuthorization();
+    if (!allowsReading(status)) {
         showLocalizedAlert("iphoto_access_denied", "iphoto_access_denied_info");
-    return {};
+        return {};
+    }
+
+    const std::unique_ptr<PhotoFetch> fetch = photos.startFetch();
+    PhotoAssets assets;
+    if (const std::optional<QString> title = selectedPhotoAlbumName()) {
+        const std::optional<PhotoAlbum> album = albumTitled(fetch->albums(), *title);
+        if (!album) {
+            showLocalizedAlert("iphoto_album_not_found", "iphoto_album_not_found_info");
+            return {};
+        }
+        assets = fetch->assets(*album);
+    } else {
+        assets = fetch->images();
+    }
+    if (assets.empty()) {
+        showLocalizedAlert("iphoto_no_images_found", "iphoto_no_images_found_info");
+        return {};
+    }
+    return loadPhotoDeck(*fetch, std::move(assets), static_cast<std::size_t>(pairsPerRound()));
 }

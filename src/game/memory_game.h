@@ -18,6 +18,7 @@
 #include <optional>
 
 class AudioPlayer;
+struct PhotoAlbum;
 
 /// The whole state of the game and every operation on it.
 ///
@@ -189,7 +190,12 @@ public:
 
     // Image sources: the pictures to deal from; short or empty on any failure.
     [[nodiscard]] CardPictures loadImagesFromBundle() const;
+    /// At most as many as a round needs, drawn from the album of the deck, or else
+    /// from the whole library. Asks for access where the user was never asked, and
+    /// says in an alert why there are none.
     [[nodiscard]] CardPictures loadImagesFromPhotoLibrary();
+    /// The first album with that title, trimmed; case matters.
+    [[nodiscard]] std::optional<PhotoAlbum> fetchPhotoAlbum(const QString& named) const;
 
     /// Shows a warning with one button after the current turn of the main
     /// thread's event loop; texts are looked up when it shows. No second key, no

@@ -4,15 +4,25 @@
 
 #include "platform/atomic_file.h"
 #include "platform/user_folders.h"
+#include "platform/within_memory.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <unistd.h>
 
 namespace {
 
-// Close to a million results. What is longer could be longer than the memory.
-constexpr qint64 longestFile = qint64{256} * 1024 * 1024;
+/// The longest file whose records this machine can hold.
+///
+/// The system grants more memory than there is, and ends the game once it is used.
+qint64 longestFile()
+{
+    // To add a result takes 3.6 times the length of a file of ours, and 5.5 times that of
+    // one without white space; the rest is for what else the system does.
+    constexpr qint64 memoryPerByte = 8;
+    return ::sysconf(_SC_PHYS_PAGES) * ::sysconf(_SC_PAGESIZE) / memoryPerByte;
+}
 
 } // namespace
 
@@ -33,19 +43,23 @@ QString highscoreFile()
     return folder.isEmpty() ? folder : folder + QStringLiteral("/highscores.json");
 }
 
-std::optional<HighscoreEntries> readHighscores(const QString& path)
+StoredHighscores readHighscores(const QString& path)
 {
     // Opening a pipe waits for whoever writes into it, and a device may never end.
     if (path.isEmpty() || !QFileInfo(path).isFile())
-        return std::nullopt;
+        return {};
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > longestFile)
-        return std::nullopt;
-    const QByteArray json = file.readAll();
-    // readAll() answers a failure with what it had got so far.
-    if (file.error() != QFileDevice::NoError)
-        return std::nullopt;
-    return decodeHighscores(json);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    StoredHighscores stored;
+    const bool isRead = file.size() <= longestFile() && withinMemory([&] {
+                            const QByteArray json = file.readAll();
+                            // readAll() answers a failure with what it had got so far.
+                            if (file.error() == QFileDevice::NoError)
+                                stored.entries = decodeHighscores(json);
+                        });
+    stored.isTooLarge = !isRead;
+    return stored;
 }
 
 bool writeHighscores(const QString& path, const HighscoreEntries& entries)

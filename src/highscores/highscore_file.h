@@ -16,12 +16,22 @@
 /// The file of the results in highscoreFolder(), which is made if missing.
 [[nodiscard]] QString highscoreFile();
 
-/// All records of the file, oldest first; none if it is missing, cannot be read
-/// or is no list of complete records.
-[[nodiscard]] std::optional<HighscoreEntries> readHighscores(const QString& file);
+/// What was found in the file of the results.
+struct StoredHighscores {
+    /// All records, oldest first; none if the file is missing, cannot be read or is
+    /// no list of complete records.
+    std::optional<HighscoreEntries> entries{};
+    /// Whether the file was not read for want of memory alone. It may hold every
+    /// result of its player, and nobody may replace it by fewer.
+    bool isTooLarge = false;
+};
+
+/// Reads the file anew. Too large is what memory cannot be had for, and what would
+/// take all the memory of this machine before the system says so.
+[[nodiscard]] StoredHighscores readHighscores(const QString& file);
 
 /// Replaces the file in one step by `entries`. False, and the old file stays,
-/// if that fails.
+/// if that fails. Like the two below it lets std::bad_alloc through.
 [[nodiscard]] bool writeHighscores(const QString& file, const HighscoreEntries& entries);
 
 /// The records that `json` holds: an array of objects, all or nothing.

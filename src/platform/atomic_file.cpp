@@ -5,7 +5,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-std::optional<QString> writeAtomically(const QString& path, const QByteArray& contents)
+std::optional<QString> writeAtomically(const QString& path, const QByteArray& contents,
+                                       std::optional<QFileDevice::Permissions> permissions)
 {
     // A pipe or a device would be gone, a link to one followed. Of folders it knows.
     const QFileInfo target(path);
@@ -15,6 +16,8 @@ std::optional<QString> writeAtomically(const QString& path, const QByteArray& co
     // Unbuffered: commit() of Qt 6.4 does not notice that its last flush failed, and a
     // full disk would leave the file cut short.
     bool isGood = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    if (isGood && permissions)
+        isGood = file.setPermissions(*permissions);
     for (qint64 done = 0; isGood && done < contents.size();) {
         const qint64 written = file.write(contents.constData() + done, contents.size() - done);
         isGood = written > 0;

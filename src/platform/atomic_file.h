@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QString>
 #include <optional>
 
@@ -10,6 +11,8 @@
 /// whoever reads it finds all of the old or all of the new.
 ///
 /// None on success. Otherwise the file is as it was, and the answer is the
-/// system's words for what failed. An empty path is a failure.
-[[nodiscard]] std::optional<QString> writeAtomically(const QString& path,
-                                                     const QByteArray& contents);
+/// system's words for what failed. An empty path is a failure. Without
+/// `permissions` the file keeps those it had, or gets the user's default.
+[[nodiscard]] std::optional<QString>
+writeAtomically(const QString& path, const QByteArray& contents,
+                std::optional<QFileDevice::Permissions> permissions = std::nullopt);

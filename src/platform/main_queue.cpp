@@ -7,6 +7,21 @@
 #include <algorithm>
 #include <utility>
 
+MainQueue::Hold::Hold(MainQueue& queue)
+    : m_queue(queue)
+{
+    if (++m_queue.m_holds == 1)
+        Q_EMIT m_queue.heldChanged(true);
+}
+
+MainQueue::Hold::~Hold()
+{
+    if (--m_queue.m_holds > 0)
+        return;
+    m_queue.scheduleRun();
+    Q_EMIT m_queue.heldChanged(false);
+}
+
 void MainQueue::async(Task task)
 {
     if (QThread::currentThread() != thread()) {
@@ -62,8 +77,8 @@ void MainQueue::scheduleRun()
 void MainQueue::runNext()
 {
     // One call was scheduled for each entry. A call that comes while a task
-    // sits in a nested event loop is made good when that task ends.
-    if (m_isRunning || m_entries.empty())
+    // sits in a nested event loop, or the queue is held, is made good afterwards.
+    if (m_isRunning || isHeld() || m_entries.empty())
         return;
     const Task task = std::move(m_entries.front().task);
     m_entries.pop_front();

@@ -2,47 +2,54 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
-#include <cstdint>
-#include <optional>
+#include "platform/photo_access.h"
+#include "platform/photo_fetch.h"
+
+#include <memory>
 #include <vector>
 
-/// How far the user lets the game look at personal photos.
-enum class PhotoAuthorization {
-    notDetermined = 0, ///< never asked
-    restricted = 1,    ///< not to be had on this system, whatever the user says
-    denied = 2,
-    authorized = 3, ///< everything
-    limited = 4,    ///< a part chosen by the user
-};
+class AccessPrompt;
 
-/// Whether pictures may be read under `status`.
-[[nodiscard]] constexpr bool allowsReading(PhotoAuthorization status) noexcept
-{
-    return status == PhotoAuthorization::authorized || status == PhotoAuthorization::limited;
-}
-
-/// One of the user's own albums.
-struct PhotoAlbum {
-    std::optional<QString> localizedTitle{}; ///< As it is, not trimmed.
-    std::int64_t assetCount = 0;             ///< Pictures and films in it.
-};
-
-/// The user's photo library. No library is connected to the game so far: this
-/// one is restricted and empty. Its derived classes have something to show.
+/// The user's photo library: the pictures folder, or the part of it (or elsewhere)
+/// that the user chose. Its direct subfolders are the albums.
 class PhotoLibrary {
 public:
+    /// `store` keeps what the user has answered, `prompt` asks (nullptr: nobody
+    /// does, which is no answer). `picturesFolder` is the library as a whole, empty
+    /// where the system names none; `helperProgram` is the path of paircade-photos.
+    PhotoLibrary(PhotoAccessStore& store, AccessPrompt* prompt, QString picturesFolder,
+                 QString helperProgram);
     virtual ~PhotoLibrary() = default;
+    PhotoLibrary(const PhotoLibrary&) = delete;
+    PhotoLibrary& operator=(const PhotoLibrary&) = delete;
 
-    /// The current status; never asks the user.
-    [[nodiscard]] virtual PhotoAuthorization authorizationStatus() const
-    {
-        return PhotoAuthorization::restricted;
-    }
+    /// The helper's path beside the running program.
+    [[nodiscard]] static QString helperOfRunningProgram();
 
-    /// The user's albums, in the library's order. Titles may be equal.
-    [[nodiscard]] virtual std::vector<PhotoAlbum> albums() const { return {}; }
+    /// The current status; never asks the user. `restricted` without a helper or a
+    /// pictures folder.
+    [[nodiscard]] virtual PhotoAuthorization authorizationStatus() const;
+
+    /// Asks the user, stores the answer and gives the new status; `denied` where
+    /// there was no answer, which is not stored. Blocks meanwhile.
+    virtual PhotoAuthorization requestAuthorization();
+
+    /// The user's albums, in the library's order, counted. Titles may be equal.
+    /// Empty where reading is not allowed. Blocks up to PhotoFetch::longestRound.
+    [[nodiscard]] virtual std::vector<PhotoAlbum> albums() const;
+
+    /// The folder that may be read, in the system's bytes; empty if none.
+    [[nodiscard]] QByteArray readableFolder() const;
 
     /// The name of the part that may be read under `limited`.
-    [[nodiscard]] virtual QString limitedTo() const { return {}; }
+    [[nodiscard]] virtual QString limitedTo() const;
+
+    /// Begins to read for one round. An empty library where reading is not allowed.
+    [[nodiscard]] virtual std::unique_ptr<PhotoFetch> startFetch() const;
+
+private:
+    PhotoAccessStore& m_store;
+    AccessPrompt* m_prompt;
+    QString m_picturesFolder;
+    QString m_helperProgram;
 };

@@ -21,7 +21,7 @@ struct Platform {
     MainQueue& mainQueue;
     NotificationCenter& notifications;
     AudioPlayer& audio;
-    const PhotoLibrary& photos;
+    PhotoLibrary& photos;
     Alerts& alerts;
     const Workspace& workspace;
 };

@@ -35,7 +35,7 @@ QString pathForStore(const QString& path)
 {
     for (const QFileInfo& file : {QFileInfo(path), QFileInfo(path + QStringLiteral(".lock"))}) {
         if (file.exists() && !file.isFile())
-            return file.filePath() + QStringLiteral("/none");
+            return QStringLiteral("/dev/null/none");
     }
     return path;
 }
@@ -121,6 +121,10 @@ bool UserDefaults::canBeLocked() const
 
 /// Whether the disk can take the file anew. QSettings does not notice that a write
 /// failed at its end, and would put a file cut short in the place of a whole one.
+///
+/// A folder that takes no new file has no room either, though the file itself may be
+/// writable: what is written over a file in place is cut short by a crash or a power cut
+/// in the middle, and that costs every setting, not only those of this run.
 bool UserDefaults::hasRoom() const
 {
     const QFileInfo file(m_store.fileName());

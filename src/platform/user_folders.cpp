@@ -2,7 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/user_folders.h"
 
+#include <QDir>
 #include <QStandardPaths>
+
+namespace {
+
+QString settingsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/Paircade/");
+}
+
+} // namespace
 
 QString applicationSupportFolder()
 {
@@ -11,6 +22,17 @@ QString applicationSupportFolder()
 
 QString settingsFile()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/Paircade/Paircade.conf");
+    return settingsFolder() + QStringLiteral("Paircade.conf");
+}
+
+QString picturesFolder()
+{
+    const QString folder =
+        QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    return folder == QDir::homePath() ? QString() : folder;
+}
+
+QString photoAccessFile()
+{
+    return settingsFolder() + QStringLiteral("PhotoAccess.conf");
 }

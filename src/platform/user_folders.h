@@ -10,3 +10,10 @@
 
 /// The file of the settings, `$XDG_CONFIG_HOME/Paircade/Paircade.conf`.
 [[nodiscard]] QString settingsFile();
+
+/// The user's folder of pictures; empty where there is none. Source:
+/// freedesktop.org, xdg-user-dirs, by which the home folder stands for none.
+[[nodiscard]] QString picturesFolder();
+
+/// The file of the answer to the question for photo access, beside the settings.
+[[nodiscard]] QString photoAccessFile();

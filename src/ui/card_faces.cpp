@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/card_faces.h"
 
+#include "platform/widgets/logo.h"
 #include "ui/colours.h"
-#include "ui/logo.h"
+#include "ui/device_pixels.h"
 #include "ui/transition.h"
 
 #include <QLinearGradient>
@@ -45,13 +46,14 @@ void paintShadow(QPainter& painter, const QRectF& card)
 template <class Paint>
 QPixmap facePixmap(qreal edge, qreal devicePixelRatio, Paint paint)
 {
-    const int pixels = static_cast<int>(std::ceil((edge + 2 * margin) * devicePixelRatio));
+    const qreal around = margin(devicePixelRatio);
+    const int pixels = qCeil((edge + 2 * around) * devicePixelRatio);
     QPixmap pixmap(pixels, pixels);
     pixmap.setDevicePixelRatio(devicePixelRatio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    paint(painter, QRectF(margin, margin, edge, edge));
+    paint(painter, QRectF(around, around, edge, edge));
     return pixmap;
 }
 
@@ -68,6 +70,11 @@ void paintBackGround(QPainter& painter, const QRectF& card)
 }
 
 } // namespace
+
+qreal CardFaces::margin(qreal devicePixelRatio)
+{
+    return std::ceil(6 * devicePixelRatio) / devicePixelRatio;
+}
 
 QPixmap CardFaces::backGround(qreal edge, qreal devicePixelRatio)
 {
@@ -93,7 +100,8 @@ QPixmap CardFaces::frontSide(const QImage& picture, qreal edge, qreal devicePixe
 
         // Scaled at once to the pixels of its frame, then cut by a brush, whose
         // edge is smooth where that of a clip is not.
-        const QRectF frame = card.adjusted(imageInset, imageInset, -imageInset, -imageInset);
+        const qreal inset = DevicePixels::whole(imageInset, devicePixelRatio);
+        const QRectF frame = card.adjusted(inset, inset, -inset, -inset);
         const QSize pixels = (frame.size() * devicePixelRatio).toSize();
         QImage scaled =
             picture.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
@@ -132,9 +140,12 @@ void CardFaces::paintGround(QPainter& painter, const QRectF& card, const QColor&
 void CardFaces::paintLogo(QPainter& painter, const QRectF& card)
 {
     const qreal edge = 0.35 * std::min(card.width(), card.height());
-    const QPixmap logo = logoPixmap(edge, painter.device()->devicePixelRatioF());
-    const QSizeF size = logo.deviceIndependentSize();
-    painter.drawPixmap(card.center() - QPointF(size.width() / 2, size.height() / 2), logo);
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const QPixmap logo = logoPixmap(edge, ratio);
+    const QSizeF room = (card.size() - logo.deviceIndependentSize()) / 2;
+    painter.drawPixmap(card.topLeft() + QPointF(DevicePixels::whole(room.width(), ratio),
+                                                DevicePixels::whole(room.height(), ratio)),
+                       logo);
 }
 
 void CardFaces::paintVeil(QPainter& painter, const QRectF& card, const QColor& colour)

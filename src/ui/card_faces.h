@@ -17,7 +17,9 @@ namespace CardFaces {
 
 inline constexpr qreal cornerRadius = 14; ///< Of the card's outline, in points.
 inline constexpr qreal imageInset = 8;    ///< From the card's edge to its picture.
-inline constexpr int margin = 6;          ///< Around a face in its pixmap.
+
+/// Around a face in its pixmap: 6 points, or what makes whole device pixels.
+[[nodiscard]] qreal margin(qreal devicePixelRatio);
 
 /// The ground of the back with its outline and shadow, for a card of `edge`.
 [[nodiscard]] QPixmap backGround(qreal edge, qreal devicePixelRatio);

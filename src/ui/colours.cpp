@@ -10,19 +10,9 @@ QColor withOpacity(QColor colour, double opacity)
     return colour;
 }
 
-bool isDark(const QPalette& palette)
-{
-    return palette.color(QPalette::Window).lightnessF() < 0.5F;
-}
-
 QColor systemBlue(const QPalette& palette)
 {
     return isDark(palette) ? QColor(0x0A, 0x84, 0xFF) : QColor(0x00, 0x7A, 0xFF);
-}
-
-QColor secondaryText(const QPalette& palette)
-{
-    return isDark(palette) ? QColor(0xA9, 0xAE, 0xB4) : QColor(0x5F, 0x5F, 0x5F);
 }
 
 QColor focusRing(const QPalette& palette)

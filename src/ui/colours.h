@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/widgets/palettes.h"
+
 #include <QColor>
 #include <QPalette>
 
@@ -18,14 +20,11 @@ inline constexpr QColor cardBackDark{0x08, 0x6B, 0x8A};
 /// `colour` with `opacity` from 0 to 1.
 [[nodiscard]] QColor withOpacity(QColor colour, double opacity);
 
-/// Whether `palette` is a dark one: light text on a dark window.
-[[nodiscard]] bool isDark(const QPalette& palette);
+using Palettes::isDark;
+using Palettes::secondaryText;
 
 /// The blue of names, a lighter one on dark windows.
 [[nodiscard]] QColor systemBlue(const QPalette& palette);
-
-/// Text that steps back, such as headings of lists.
-[[nodiscard]] QColor secondaryText(const QPalette& palette);
 
 /// The ring around the focused card; at least 3:1 to the window (WCAG 1.4.11).
 [[nodiscard]] QColor focusRing(const QPalette& palette);

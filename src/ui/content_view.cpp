@@ -3,20 +3,25 @@
 #include "ui/content_view.h"
 
 #include "decks/deck_look.h"
+#include "platform/main_queue.h"
+#include "platform/platform.h"
+#include "platform/widgets/announcer.h"
 #include "platform/widgets/appearance.h"
+#include "platform/widgets/held_input.h"
+#include "platform/widgets/logo.h"
 #include "ui/celebration.h"
 #include "ui/colours.h"
+#include "ui/commentary.h"
 #include "ui/game_board.h"
 #include "ui/header.h"
 #include "ui/invitation.h"
 #include "ui/leaving_board.h"
 #include "ui/left_sidebar.h"
-#include "ui/logo.h"
+#include "ui/plain_area.h"
 #include "ui/screen_metrics.h"
 #include "ui/start_forms.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
 #include <algorithm>
@@ -45,22 +50,6 @@ protected:
     }
 };
 
-bool isMousePress(const QEvent& event)
-{
-    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
-}
-
-/// Whether a key is held down, or a press is the second of a double click. The
-/// window is told of such a press twice, as a press and as a double click.
-bool isRepeat(const QEvent& event)
-{
-    if (event.type() == QEvent::KeyPress)
-        return static_cast<const QKeyEvent&>(event).isAutoRepeat();
-    return event.type() == QEvent::MouseButtonDblClick ||
-           static_cast<const QMouseEvent&>(event).flags().testFlag(
-               Qt::MouseEventCreatedDoubleClick);
-}
-
 } // namespace
 
 ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
@@ -75,11 +64,11 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     , m_gameBoard(new GameBoard(*m_game, nullptr))
     , m_divider(new Divider(this))
     , m_logo(new LogoView(this))
+    , m_commentary(new Commentary(*m_game, this))
+    , m_announcer(new Announcer(this))
 {
-    m_boardArea->setFrameShape(QFrame::NoFrame);
-    m_boardArea->setFocusPolicy(Qt::NoFocus);
     m_boardArea->setWidgetResizable(true);
-    m_boardArea->setWidget(m_gameBoard);
+    makePlain(*m_boardArea, m_gameBoard);
     for (QWidget* const above : std::initializer_list<QWidget*>{m_header, m_divider, m_logo})
         above->raise();
     connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,
@@ -89,6 +78,10 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
             [this](int points) { m_logo->move(m_logo->x(), logoTop - points); });
 
     connect(m_game.get(), &MemoryGame::changed, this, &ContentView::noteChange);
+    connect(&platform().mainQueue, &MainQueue::heldChanged, this, [this](bool isHeld) {
+        if (!isHeld && std::exchange(m_isRefreshScheduled, false))
+            scheduleRefresh();
+    });
     QCoreApplication::instance()->installEventFilter(this);
     refresh();
 }
@@ -155,10 +148,17 @@ void ContentView::followAppearance()
     update();
 }
 
+void ContentView::tellStatus()
+{
+    m_announcer->say(m_commentary->status());
+}
+
 void ContentView::noteChange(MemoryGame::Member member)
 {
     if (member == MemoryGame::Member::isGameActive)
         m_needsFocus = true;
+    else if (member == MemoryGame::Member::isVersusMode)
+        m_ignoresKeyRepeats = true;
     // By the time of the refresh another board may lie there.
     if (member == MemoryGame::Member::cards && m_game->isGameActive() &&
         std::ranges::all_of(m_game->cards(), &MemoryCard::isMatched))
@@ -181,6 +181,10 @@ void ContentView::refreshIfScheduled()
 
 void ContentView::refresh()
 {
+    if (platform().mainQueue.isHeld()) { // what is shown is half of a change
+        m_isRefreshScheduled = true;
+        return;
+    }
     m_singlePlayerStartView->refresh();
     m_versusStartView->refresh();
     showLeavingBoard();
@@ -190,6 +194,8 @@ void ContentView::refresh()
     m_leftSidebar->refresh();
     m_header->refresh();
     inviteAgain();
+    // Last, since what is said of a new focus cuts off what was said before.
+    m_announcer->say(m_commentary->take());
 }
 
 void ContentView::showLeavingBoard()
@@ -277,7 +283,7 @@ void ContentView::giveFocus()
 
 bool ContentView::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isKey = event->type() == QEvent::KeyPress;
+    const bool isKey = isKeyPress(*event);
     if (!isKey && !isMousePress(*event))
         return QWidget::eventFilter(watched, event);
 
@@ -288,6 +294,9 @@ bool ContentView::eventFilter(QObject* watched, QEvent* event)
     // A key still held when its view went, or the second half of a double click,
     // must not act on the next view.
     if (!isRepeat(*event))
-        m_ignoresRepeats = false;
-    return m_ignoresRepeats;
+        m_ignoresRepeats = m_ignoresKeyRepeats = false;
+    const bool isIgnored = m_ignoresRepeats || (isKey && m_ignoresKeyRepeats);
+    if (isIgnored && event->type() == QEvent::ShortcutOverride)
+        event->accept(); // else the shortcut would be taken
+    return isIgnored;
 }

@@ -7,8 +7,10 @@
 #include <QWidget>
 #include <memory>
 
-class GameBoard;
+class Announcer;
 class Celebration;
+class Commentary;
+class GameBoard;
 class Header;
 class Invitation;
 class LeftSidebar;
@@ -21,7 +23,8 @@ class VersusStartView;
 /// the board of the running game or the form that starts one.
 ///
 /// Shows what the game holds. However much of it changes in a turn of the event
-/// loop, the screen follows once, after it, or before the next key.
+/// loop, the screen follows once, after it, or before the next key; while the main
+/// queue is held, not before that ends.
 class ContentView : public QWidget {
     Q_OBJECT
 
@@ -36,6 +39,9 @@ public:
 
     /// Takes over the contrast and the motion that the desktop asks for.
     void followAppearance();
+
+    /// Has a screen reader tell how the game stands.
+    void tellStatus();
 
     /// Lays the screen out for its size and the current layout.
     void layOut();
@@ -70,6 +76,8 @@ private:
     GameBoard* m_gameBoard;
     QWidget* m_divider;
     LogoView* m_logo;
+    Commentary* m_commentary;
+    Announcer* m_announcer;
 
     MemoryCards m_wonBoard{}; ///< As it stood when its last pair was found.
     bool m_isRefreshScheduled = false;
@@ -77,4 +85,6 @@ private:
     bool m_showsVersusForm = false;
     bool m_needsFocus = true;      ///< Another view comes, or a start came to nothing.
     bool m_ignoresRepeats = false; ///< A key that ended one view is still held.
+    /// The key that changed the mode is; its check box may well be clicked twice.
+    bool m_ignoresKeyRepeats = false;
 };

@@ -3,19 +3,32 @@
 #pragma once
 
 #include <QLabel>
+#include <QStringList>
+#include <vector>
 
 /// One line of plain text; what does not fit ends in an ellipsis and shows
 /// whole in a tooltip. The text itself, also for a screen reader, stays whole,
 /// unless it is longer than any line could be.
+///
+/// Names in it give way before the rest, so that the value behind a long name
+/// can be read, and each keeps its own direction of writing to itself: one from
+/// right to left would else take the numbers beside it along.
 class ElidedLabel : public QLabel {
     Q_OBJECT
 
 public:
     explicit ElidedLabel(const QString& objectName, QWidget* parent);
 
-    /// Takes the first 2000 characters of `text`: to lay out more takes seconds,
-    /// and an edited file of results may hold names of megabytes.
-    void setText(const QString& text);
+    /// Shows `text`. `names` are what it quotes, in the order in which they stand
+    /// there; one that does not is passed over.
+    ///
+    /// Takes the first 2000 characters of each name and of what lies between: to
+    /// lay out more takes seconds, and an edited file of results may hold names of
+    /// megabytes.
+    void setText(const QString& text, const QStringList& names = {});
+
+    /// What is drawn in the label's present width.
+    [[nodiscard]] QString shownText() const;
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -24,5 +37,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] QString shownText() const;
+    struct Piece {
+        QString text{};
+        bool isName = false;
+    };
+
+    /// Every character of the text, as it is drawn where there is room.
+    [[nodiscard]] QString wholeText() const;
+    std::vector<Piece> m_pieces{};
 };

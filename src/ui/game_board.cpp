@@ -8,7 +8,9 @@
 #include "platform/user_defaults.h"
 #include "platform/widgets/appearance.h"
 #include "settings/settings_keys.h"
+#include "ui/card_texts.h"
 #include "ui/colours.h"
+#include "ui/device_pixels.h"
 #include "ui/memory_card_view.h"
 #include "ui/screen_metrics.h"
 
@@ -53,7 +55,7 @@ void GameBoard::refresh()
     for (std::size_t i = 0; i < cards.size(); ++i) {
         const bool canBeTurned = awaitsTap && !cards[i].isFaceUp && !cards[i].isMatched;
         m_tiles[i]->show(cards[i], removeMatch, canBeTurned,
-                         accessibleText(cards[i], i, removeMatch));
+                         cardText(cards, i, m_columns, removeMatch));
     }
 }
 
@@ -107,6 +109,8 @@ void GameBoard::replaceTiles(const MemoryCards& cards)
     }
     arrange();
     update();
+    if (!m_tiles.empty())
+        moveTabStop(std::min(m_focusedPosition, m_tiles.size() - 1));
 
     // Before the old tiles go: the focus of a hidden one would wander off.
     if (hadFocus)
@@ -175,7 +179,8 @@ void GameBoard::arrange()
 
 QRectF GameBoard::place(const MemoryCardView& tile) const
 {
-    return {QPointF(tile.pos()), QSizeF(m_cardSize, m_cardSize)};
+    const qreal edge = DevicePixels::whole(m_cardSize, devicePixelRatioF());
+    return {DevicePixels::nearest(*this, tile.pos()), QSizeF(edge, edge)};
 }
 
 void GameBoard::paintEvent(QPaintEvent* event)
@@ -221,7 +226,7 @@ bool GameBoard::eventFilter(QObject* watched, QEvent* event)
         const auto tile = std::ranges::find(m_tiles, watched);
         if (tile != m_tiles.end()) {
             if (event->type() == QEvent::FocusIn)
-                m_focusedPosition = static_cast<std::size_t>(tile - m_tiles.begin());
+                moveTabStop(static_cast<std::size_t>(tile - m_tiles.begin()));
             update((*tile)->geometry().adjusted(-ringReach, -ringReach, ringReach, ringReach));
         }
     }
@@ -235,6 +240,14 @@ void GameBoard::focusCard(std::size_t position)
     MemoryCardView* const tile = m_tiles[std::min(position, m_tiles.size() - 1)];
     tile->setFocus(Qt::OtherFocusReason);
     Q_EMIT focusMoved(tile);
+}
+
+void GameBoard::moveTabStop(std::size_t position)
+{
+    if (m_focusedPosition < m_tiles.size())
+        m_tiles[m_focusedPosition]->setFocusPolicy(Qt::ClickFocus);
+    m_tiles[position]->setFocusPolicy(Qt::StrongFocus);
+    m_focusedPosition = position;
 }
 
 void GameBoard::setFocusRingShown(bool isShown)
@@ -265,23 +278,4 @@ void GameBoard::navigate(std::size_t from, int key, Qt::KeyboardModifiers modifi
     else if (key == Qt::Key_End)
         to = wholeBoard ? last : rowStart + columns - 1;
     focusCard(to);
-}
-
-QString GameBoard::accessibleText(const MemoryCard& card, std::size_t position,
-                                  bool removeMatch) const
-{
-    const auto columns = static_cast<std::size_t>(m_columns);
-    const std::size_t row = position / columns + 1;
-    const std::size_t column = position % columns + 1;
-    if (!card.isFaceUp && !card.isMatched)
-        return localizedText("tile_hidden", {row, column});
-    if (card.isMatched && removeMatch)
-        return localizedText("tile_removed", {row, column});
-    // A deck without translated names still has its file names.
-    const QString key = QStringLiteral("card_") + card.image.name;
-    QString name =
-        card.image.name.isEmpty() ? localizedText("picture_without_name") : localizedText(key);
-    if (name == key)
-        name = card.image.name;
-    return localizedText(card.isMatched ? "tile_found" : "tile_turned", {row, column, name});
 }

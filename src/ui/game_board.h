@@ -16,7 +16,9 @@ class MemoryGame;
 class QPainter;
 
 /// The grid of cards. Owns one tile per card and keeps it as long as the card
-/// lies on the board; paints all of them, and the focus ring.
+/// lies on the board; paints all of them, and the focus ring. To Tab the board is
+/// one control, entered at the card that had the focus last: behind forty stops the
+/// button that ends the game would be out of reach. Arrow keys go from card to card.
 class GameBoard : public QWidget {
     Q_OBJECT
 
@@ -56,14 +58,13 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void moveTabStop(std::size_t position);
     void replaceTiles(const MemoryCards& cards);
     void followFrame();
     void arrange();
     void paintFocusRing(QPainter& painter) const;
     [[nodiscard]] QSizeF gridSize() const;
     [[nodiscard]] QRectF place(const MemoryCardView& tile) const;
-    [[nodiscard]] QString accessibleText(const MemoryCard& card, std::size_t position,
-                                         bool removeMatch) const;
     void navigate(std::size_t from, int key, Qt::KeyboardModifiers modifiers);
 
     MemoryGame& m_game;

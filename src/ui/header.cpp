@@ -4,11 +4,13 @@
 
 #include "game/memory_game.h"
 #include "platform/localized_text.h"
+#include "platform/trim.h"
 #include "ui/elided_label.h"
 #include "ui/fonts.h"
 #include "ui/screen_metrics.h"
 
 #include <QHBoxLayout>
+#include <utility>
 
 Header::Header(const MemoryGame& game, QWidget* parent)
     : QWidget(parent)
@@ -25,10 +27,18 @@ Header::Header(const MemoryGame& game, QWidget* parent)
 
 void Header::refresh()
 {
-    if (m_game.isGameActive())
-        m_line->setText(m_game.headerText());
-    else if (m_game.gameCompleted())
-        m_line->setText(m_game.winnerText());
-    else
-        m_line->clear();
+    const bool isVersus = m_game.isVersusMode();
+    QString text;
+    if (m_game.isGameActive()) {
+        m_wasVersus = isVersus;
+        text = m_game.headerText();
+    } else if (m_game.gameCompleted() && m_wasVersus == isVersus) {
+        text = m_game.winnerText();
+    }
+    // Behind a result other names may be typed: it keeps those that it was given.
+    if (std::exchange(m_text, text) == text)
+        return;
+    const auto [first, second] = m_game.playerNames();
+    m_line->setText(text, isVersus ? QStringList{first, second}
+                                   : QStringList{trimmedText(m_game.playerName())});
 }

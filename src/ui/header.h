@@ -7,7 +7,8 @@
 class ElidedLabel;
 class MemoryGame;
 
-/// The title strip: the game's line while one runs, then its result.
+/// The title strip: the game's line while one runs, then its result, as long as
+/// the form of that game's mode is shown.
 class Header : public QWidget {
     Q_OBJECT
 
@@ -19,4 +20,6 @@ public:
 private:
     const MemoryGame& m_game;
     ElidedLabel* m_line;
+    QString m_text{};
+    bool m_wasVersus = false; ///< The last game that ran.
 };

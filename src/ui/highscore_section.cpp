@@ -44,29 +44,35 @@ void HighscoreSection::refresh()
 {
     const bool isVersus = m_game.isVersusMode();
     fill(m_times, !isVersus, m_game.bestTimeScores(), [](std::size_t rank, const auto& entry) {
-        return localizedText("%1. %2 – %3",
-                             {rank, entry.playerName, clockText(entry.elapsedSeconds)});
+        return Line{
+            localizedText("%1. %2 – %3", {rank, entry.playerName, clockText(entry.elapsedSeconds)}),
+            {entry.playerName}};
     });
     fill(m_failures, !isVersus, m_game.bestFailureScores(),
          [](std::size_t rank, const auto& entry) {
-             return localizedText("%1. %2 – %3", {rank, entry.playerName, entry.failedAttempts});
+             return Line{
+                 localizedText("%1. %2 – %3", {rank, entry.playerName, entry.failedAttempts}),
+                 {entry.playerName}};
          });
     fill(m_versus, isVersus, m_game.bestVersusScores(), [](std::size_t rank, const auto& entry) {
-        return localizedText(
-            "%1. %2 vs %3 – %4:%5",
-            {rank, entry.playerName, entry.secondPlayerName.value_or(localizedText("player_two")),
-             entry.firstPlayerScore.value_or(0), entry.secondPlayerScore.value_or(0)});
+        const QString second = entry.secondPlayerName.value_or(localizedText("player_two"));
+        return Line{localizedText("%1. %2 vs %3 – %4:%5", {rank, entry.playerName, second,
+                                                           entry.firstPlayerScore.value_or(0),
+                                                           entry.secondPlayerScore.value_or(0)}),
+                    {entry.playerName, second}};
     });
 }
 
 void HighscoreSection::fill(const List& list, bool isShown, const HighscoreEntries& entries,
-                            const LineText& text)
+                            const LineOf& lineOf)
 {
     list.heading->setVisible(isShown);
     for (std::size_t i = 0; i < list.lines.size(); ++i) {
         const bool hasEntry = isShown && i < entries.size();
-        if (hasEntry)
-            list.lines[i]->setText(text(i + 1, entries[i]));
+        if (hasEntry) {
+            const Line line = lineOf(i + 1, entries[i]);
+            list.lines[i]->setText(line.text, line.names);
+        }
         list.lines[i]->setVisible(hasEntry);
     }
 }

@@ -4,6 +4,8 @@
 
 #include "highscores/highscore_entry.h"
 
+#include <QString>
+#include <QStringList>
 #include <array>
 #include <functional>
 #include <vector>
@@ -34,11 +36,15 @@ private:
         ElidedLabel* heading = nullptr;
         std::array<ElidedLabel*, shownEntries> lines{};
     };
-    using LineText = std::function<QString(std::size_t rank, const HighscoreEntry& entry)>;
+    struct Line {
+        QString text{};
+        QStringList names{}; ///< As they stand in it.
+    };
+    using LineOf = std::function<Line(std::size_t rank, const HighscoreEntry& entry)>;
 
     [[nodiscard]] List makeList(const char* headingKey, const char* name, QWidget* column);
     static void fill(const List& list, bool isShown, const HighscoreEntries& entries,
-                     const LineText& text);
+                     const LineOf& lineOf);
 
     const MemoryGame& m_game;
     std::vector<ElidedLabel*> m_rows{};

@@ -8,6 +8,7 @@
 #include "platform/platform.h"
 #include "platform/user_defaults.h"
 #include "settings/settings_keys.h"
+#include "ui/device_pixels.h"
 #include "ui/screen_metrics.h"
 
 #include <QEvent>
@@ -59,7 +60,7 @@ void Invitation::arrange(const QRect& area, int formTop)
     m_edge = hasRoom ? edge : 0;
     // Whole area, since a turning card reaches beyond the fan.
     setGeometry(area);
-    const double gap = std::max(32.0, std::round(0.15 * room));
+    const double gap = std::max(32.0, std::rint(0.15 * room));
     m_middleY = formTop - gap - std::round(fanHeight * edge) + edge / 2 - area.top();
     update();
 }
@@ -190,6 +191,11 @@ void Invitation::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    // The middle card stands upright and lies on whole pixels.
+    const double edge = DevicePixels::whole(m_edge, devicePixelRatioF());
+    const QPointF half(edge / 2, edge / 2);
+    const QPointF middle =
+        DevicePixels::nearest(*this, QPointF(width() / 2.0, m_middleY) - half) + half;
     const double radius = circleRadius(m_edge);
     const int reach = static_cast<int>(m_cards.size()) / 2;
     // From the outside in, so that the middle card lies on top.
@@ -198,13 +204,13 @@ void Invitation::paintEvent(QPaintEvent*)
             const double angle = place * degreesApart;
             const double radians = angle * std::numbers::pi / 180;
             painter.save();
-            painter.translate(width() / 2.0 + radius * std::sin(radians),
-                              m_middleY + radius * (1 - std::cos(radians)));
+            painter.translate(middle.x() + radius * std::sin(radians),
+                              middle.y() + radius * (1 - std::cos(radians)));
             painter.rotate(angle);
             const int number = place + reach;
             TurningCard& card = m_cards[static_cast<std::size_t>(number)];
             card.setGround(palette().color(QPalette::Window));
-            card.paint(painter, QRectF(-m_edge / 2, -m_edge / 2, m_edge, m_edge));
+            card.paint(painter, QRectF(-half, half));
             painter.restore();
             if (distance == 0)
                 break;

@@ -3,6 +3,7 @@
 #include "ui/leaving_board.h"
 
 #include "platform/widgets/appearance.h"
+#include "ui/device_pixels.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -67,12 +68,15 @@ void LeavingBoard::paintEvent(QPaintEvent*)
     const double fade = std::clamp((age - cardTurnSeconds) / fadeSeconds, 0.0, 1.0);
     const bool isFading = fade > 0 && !Appearance::isMotionReduced();
 
-    QPixmap picture(size() * devicePixelRatioF());
+    // On the window's pixels, as the board's were.
+    const QPointF corner = DevicePixels::nearest(*this, QPointF());
+    QPixmap picture(size() * devicePixelRatioF() + QSize(1, 1));
     picture.setDevicePixelRatio(devicePixelRatioF());
     picture.fill(palette().color(QPalette::Window));
     {
         QPainter painter(&picture);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.translate(-corner);
         for (const bool areTurning : {false, true}) {
             for (Card& card : m_cards) {
                 if (card.face.isTurning() == areTurning)
@@ -82,5 +86,5 @@ void LeavingBoard::paintEvent(QPaintEvent*)
     }
     QPainter painter(this);
     painter.setOpacity(isFading ? 1 - fade : 1);
-    painter.drawPixmap(0, 0, picture);
+    painter.drawPixmap(corner, picture);
 }

@@ -10,12 +10,14 @@
 #include "ui/colours.h"
 #include "ui/elided_label.h"
 #include "ui/fonts.h"
+#include "ui/plain_area.h"
 #include "ui/screen_metrics.h"
 
 #include <QCheckBox>
 #include <QEvent>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <initializer_list>
 
@@ -59,12 +61,9 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
 {
     setObjectName(QStringLiteral("leftSidebar"));
     m_highscoreArea->setObjectName(QStringLiteral("highscoreArea"));
-    m_highscoreArea->setWidget(m_highscoreColumn);
-    for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea}) {
-        area->setFrameShape(QFrame::NoFrame);
+    for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea})
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        area->setFocusPolicy(Qt::NoFocus);
-    }
+    makePlain(*m_highscoreArea, m_highscoreColumn);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LeftSidebar::scrolled);
 
     for (ElidedLabel* const row : m_highscores.rows())
@@ -82,11 +81,15 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     m_versusCheckbox = new QCheckBox(controlText("versus_mode"), m_column);
     m_versusCheckbox->setObjectName(QStringLiteral("versusCheckbox"));
     m_versusCheckbox->setFont(systemFont(13, QFont::DemiBold));
+    // No wider than its text, or the ring around it would not close within the column.
     m_rows.push_back(
-        {.widget = m_versusCheckbox, .width = ScreenMetrics::leftPanelWidth, .below = 8});
-    connect(m_versusCheckbox, &QCheckBox::clicked, &m_game, [this](bool isChecked) {
+        {.widget = m_versusCheckbox,
+         .width = std::min(m_versusCheckbox->sizeHint().width(), ScreenMetrics::leftPanelWidth),
+         .below = 8});
+    // Not clicked, which is silent when a screen reader toggles the box.
+    connect(m_versusCheckbox, &QCheckBox::toggled, &m_game, [this](bool isChecked) {
         if (m_game.isGameActive()) {
-            m_versusCheckbox->setChecked(m_game.isVersusMode());
+            showMode();
             return;
         }
         m_game.setIsVersusMode(isChecked);
@@ -112,7 +115,7 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
             row.width = std::min(widest, ScreenMetrics::leftPanelWidth);
     }
 
-    setWidget(m_column);
+    makePlain(*this, m_column);
     followAppearance();
 }
 
@@ -137,10 +140,16 @@ void LeftSidebar::refresh()
 {
     refreshPlayerLines();
     m_highscores.refresh();
-    m_versusCheckbox->setChecked(m_game.isVersusMode());
+    showMode();
     m_versusCheckbox->setEnabled(!m_game.isGameActive());
     m_endButton->setVisible(m_game.isGameActive());
     arrange();
+}
+
+void LeftSidebar::showMode()
+{
+    const QSignalBlocker blocker(m_versusCheckbox); // nobody has toggled it
+    m_versusCheckbox->setChecked(m_game.isVersusMode());
 }
 
 void LeftSidebar::refreshPlayerLines()
@@ -148,14 +157,15 @@ void LeftSidebar::refreshPlayerLines()
     const bool isVersus = m_game.isVersusMode();
     const auto [first, second] = m_game.playerNames();
     const auto [firstScore, secondScore] = m_game.playerScores();
-    m_pairingLine->setText(localizedText("%1 vs %2", {first, second}));
-    m_firstScoreLine->setText(first + QStringLiteral(": ") + QString::number(firstScore));
-    m_secondScoreLine->setText(second + QStringLiteral(": ") + QString::number(secondScore));
+    m_pairingLine->setText(localizedText("%1 vs %2", {first, second}), {first, second});
+    m_firstScoreLine->setText(first + QStringLiteral(": ") + QString::number(firstScore), {first});
+    m_secondScoreLine->setText(second + QStringLiteral(": ") + QString::number(secondScore),
+                               {second});
     for (QWidget* const line : {m_pairingLine, m_firstScoreLine, m_secondScoreLine})
         line->setVisible(isVersus);
 
     const QString name = trimmedText(m_game.playerName());
-    m_nameLine->setText(name);
+    m_nameLine->setText(name, {name});
     m_nameLine->setVisible(!isVersus && !name.isEmpty());
     m_timeLine->setText(localizedText("time_label", {m_game.formattedElapsedTime()}));
     m_failuresLine->setText(localizedText("failed_attempts_label", {m_game.failedAttempts()}));

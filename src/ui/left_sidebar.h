@@ -46,6 +46,7 @@ private:
 
     [[nodiscard]] ElidedLabel* addLine(const char* name, int width, const QFont& font);
     [[nodiscard]] QPushButton* addButton(const char* key, const char* name, int above);
+    void showMode();
     void refreshPlayerLines();
     void arrange();
     void arrangeHighscores(const std::vector<Row>& shown, int height, int visibleHeight);

@@ -31,12 +31,16 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void rename(const QString& name);
+    void tellName();
     void followPointer();
 
     TurningCard m_face;
     bool m_canBeTurned = true;
+    bool m_owesName = false; ///< Readers were not told of its name yet.
 };

@@ -8,8 +8,10 @@
 #include "platform/widgets/control_text.h"
 #include "ui/fonts.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <initializer_list>
 
@@ -17,9 +19,28 @@ namespace {
 
 constexpr int controlHeight = 32;
 
+/// Selects its text once it has the focus, not while it gets it: Qt would report the
+/// caret before the focus, and Orca then takes the field for one already named and
+/// says nothing.
+class NameField : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        const bool isByKey =
+            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        QFocusEvent quiet(event->type(), isByKey ? Qt::OtherFocusReason : event->reason());
+        QLineEdit::focusInEvent(&quiet);
+        if (isByKey)
+            QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
+    }
+};
+
 QLineEdit* makeField(const char* placeholderKey, const char* name, int width, QWidget* form)
 {
-    auto* const field = new QLineEdit(form);
+    auto* const field = new NameField(form);
     field->setObjectName(QString::fromLatin1(name));
     field->setPlaceholderText(localizedText(placeholderKey));
     field->setAccessibleName(localizedText(placeholderKey));
@@ -52,6 +73,7 @@ void stack(QWidget* form, std::initializer_list<QWidget*> controls)
 /// The same text set again would move the cursor.
 void showText(QLineEdit* field, const QString& text)
 {
+    const QSignalBlocker blocker(field); // nobody has typed
     if (field->text() != text)
         field->setText(text);
 }
@@ -66,7 +88,8 @@ SinglePlayerStartView::SinglePlayerStartView(MemoryGame& game, QWidget* parent)
 {
     m_startButton->setFont(systemFont(14, QFont::DemiBold));
     stack(this, {m_playerName, m_startButton});
-    connect(m_playerName, &QLineEdit::textEdited, &m_game, &MemoryGame::setPlayerName);
+    // Not textEdited, which is silent when a screen reader or dictation writes.
+    connect(m_playerName, &QLineEdit::textChanged, &m_game, &MemoryGame::setPlayerName);
     connect(m_playerName, &QLineEdit::returnPressed, &m_game, &MemoryGame::startNewGame);
     connect(m_startButton, &QPushButton::clicked, &m_game, &MemoryGame::startNewGame);
 }
@@ -97,8 +120,8 @@ VersusStartView::VersusStartView(MemoryGame& game, QWidget* parent)
     , m_startButton(makeButton("start_versus_game", "startVersusButton", 160, this))
 {
     stack(this, {m_playerOneName, m_playerTwoName, m_startButton});
-    connect(m_playerOneName, &QLineEdit::textEdited, &m_game, &MemoryGame::setPlayerOneName);
-    connect(m_playerTwoName, &QLineEdit::textEdited, &m_game, &MemoryGame::setPlayerTwoName);
+    connect(m_playerOneName, &QLineEdit::textChanged, &m_game, &MemoryGame::setPlayerOneName);
+    connect(m_playerTwoName, &QLineEdit::textChanged, &m_game, &MemoryGame::setPlayerTwoName);
     connect(m_startButton, &QPushButton::clicked, &m_game, &MemoryGame::startNewGame);
 }
 

@@ -92,8 +92,8 @@ bool TurningCard::isTurning() const
 
 QRect TurningCard::reach(const QRectF& place) const
 {
-    const QRectF face = place.adjusted(-CardFaces::margin, -CardFaces::margin, CardFaces::margin,
-                                       CardFaces::margin);
+    const qreal margin = CardFaces::margin(1);
+    const QRectF face = place.adjusted(-margin, -margin, margin, margin);
     const double turn = look().turn;
     if (turn <= 0 || turn >= 180)
         return face.toAlignedRect();
@@ -146,19 +146,20 @@ void TurningCard::prepareFaces(qreal edge, qreal devicePixelRatio)
 
 void TurningCard::paintBack(QPainter& painter, const QRectF& place, qreal devicePixelRatio)
 {
-    const QPointF corner = place.topLeft() - QPointF(CardFaces::margin, CardFaces::margin);
-    const double veil = m_hover.value() + m_press.value();
-    if (veil <= 0) {
+    const qreal margin = CardFaces::margin(devicePixelRatio);
+    const QPointF corner = place.topLeft() - QPointF(margin, margin);
+    // A held card is dark, not light and dark at once.
+    const double press = m_press.value();
+    const double hover = m_hover.value() * (1 - press);
+    if (hover + press <= 0) {
         painter.drawPixmap(corner,
                            sharedFace("back", m_edge, devicePixelRatio, CardFaces::backSide));
         return;
     }
     painter.drawPixmap(corner,
                        sharedFace("ground", m_edge, devicePixelRatio, CardFaces::backGround));
-    CardFaces::paintVeil(painter, place,
-                         Colours::withOpacity(Qt::white, hoverVeil * m_hover.value()));
-    CardFaces::paintVeil(painter, place,
-                         Colours::withOpacity(Qt::black, pressVeil * m_press.value()));
+    CardFaces::paintVeil(painter, place, Colours::withOpacity(Qt::white, hoverVeil * hover));
+    CardFaces::paintVeil(painter, place, Colours::withOpacity(Qt::black, pressVeil * press));
     CardFaces::paintLogo(painter, place);
 }
 
@@ -169,6 +170,7 @@ void TurningCard::paintFront(QPainter& painter, const QRectF& place, qreal devic
         m_front = CardFaces::frontSide(m_card.image.image, m_edge, devicePixelRatio);
     if (m_ground.isValid())
         CardFaces::paintGround(painter, place, m_ground);
-    painter.drawPixmap(place.topLeft() - QPointF(CardFaces::margin, CardFaces::margin), m_front);
+    const qreal margin = CardFaces::margin(devicePixelRatio);
+    painter.drawPixmap(place.topLeft() - QPointF(margin, margin), m_front);
     CardFaces::paintFrontOutline(painter, place, found);
 }

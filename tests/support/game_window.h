@@ -82,10 +82,11 @@ public:
             QTest::keyClick(window().windowHandle(), letter.toLatin1());
     }
     /// One more press of a key that is held down.
-    void repeat(Qt::Key key, const QString& text)
+    void repeat(Qt::Key key, const QString& text) { repeatOn(window(), key, text); }
+    static void repeatOn(const QWidget& shown, Qt::Key key, const QString& text = {})
     {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text, true);
-        QCoreApplication::sendEvent(window().windowHandle(), &event);
+        QCoreApplication::sendEvent(shown.windowHandle(), &event);
     }
 
     void startGame()

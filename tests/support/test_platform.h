@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/access_prompt.h"
 #include "platform/alerts.h"
 #include "platform/application_bundle.h"
 #include "platform/audio_player.h"
@@ -37,14 +38,39 @@ public:
     mutable QStringList paths{}; ///< Oldest first.
 };
 
-/// A photo library that holds what a test gives it; without that, nothing.
+/// Answers as a test wants, and counts how often it was asked.
+class TestPrompt : public AccessPrompt {
+public:
+    std::optional<PhotoAccess> askForPhotoAccess() override
+    {
+        ++asked;
+        return answer;
+    }
+
+    std::optional<PhotoAccess> answer{};
+    int asked = 0;
+};
+
+/// The real photo library of the home, in its folder Pictures, but for what a test
+/// puts in its place. Restricted if not told otherwise.
 class TestPhotoLibrary : public PhotoLibrary {
 public:
-    [[nodiscard]] PhotoAuthorization authorizationStatus() const override { return status; }
-    [[nodiscard]] std::vector<PhotoAlbum> albums() const override { return content; }
-    [[nodiscard]] QString limitedTo() const override { return folder; }
+    using PhotoLibrary::PhotoLibrary;
 
-    PhotoAuthorization status = PhotoAuthorization::restricted;
+    [[nodiscard]] PhotoAuthorization authorizationStatus() const override
+    {
+        return status ? *status : PhotoLibrary::authorizationStatus();
+    }
+    [[nodiscard]] std::vector<PhotoAlbum> albums() const override
+    {
+        return status ? content : PhotoLibrary::albums();
+    }
+    [[nodiscard]] QString limitedTo() const override
+    {
+        return status ? folder : PhotoLibrary::limitedTo();
+    }
+
+    std::optional<PhotoAuthorization> status = PhotoAuthorization::restricted; ///< None: the real.
     std::vector<PhotoAlbum> content{};
     QString folder{};
 };
@@ -76,7 +102,10 @@ public:
     MainQueue mainQueue{};
     NotificationCenter notifications{};
     AudioPlayer audio{};
-    TestPhotoLibrary photos{};
+    TestPrompt prompt{};
+    PhotoAccessStore photoAccess{home.filePath(QStringLiteral("config/Paircade/PhotoAccess.conf"))};
+    TestPhotoLibrary photos{photoAccess, &prompt, home.filePath(QStringLiteral("Pictures")),
+                            PhotoLibrary::helperOfRunningProgram()};
     AlertLog alertLog{};
     OpenedFiles openedFiles{};
 

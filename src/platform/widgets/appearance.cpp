@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/widgets/appearance.h"
 
+#include "platform/widgets/outlined_style.h"
 #include "platform/widgets/palettes.h"
 
 #include <QApplication>
@@ -31,11 +32,6 @@ const QString highContrast = QStringLiteral("high-contrast");
 bool motionIsReduced = false;
 bool contrastIsHigh = false;
 
-bool isDark(const QPalette& palette)
-{
-    return palette.color(QPalette::Window).lightnessF() < 0.5F;
-}
-
 } // namespace
 
 Appearance::Appearance()
@@ -64,6 +60,7 @@ Appearance::~Appearance()
 {
     motionIsReduced = false;
     contrastIsHigh = false;
+    applyContrast();
 }
 
 bool Appearance::isMotionReduced()
@@ -128,14 +125,27 @@ void Appearance::announce()
         return;
     motionIsReduced = isMotionReducedNow;
     contrastIsHigh = isContrastHighNow;
+    applyContrast();
     Q_EMIT changed();
+}
+
+void Appearance::applyContrast()
+{
+    const QStyle* const style = QApplication::style();
+    const bool isOutlined = qobject_cast<const OutlinedStyle*>(style) != nullptr;
+    const auto fusion = QStringLiteral("fusion");
+    if (isOutlined && !contrastIsHigh)
+        QApplication::setStyle(fusion);
+    // A desktop with a style of its own has one for high contrast, too.
+    else if (!isOutlined && contrastIsHigh && style->name() == fusion)
+        QApplication::setStyle(new OutlinedStyle);
 }
 
 void Appearance::applyScheme()
 {
     const bool wantsDark = m_scheme == 1;
     const bool hasWish = wantsDark || m_scheme == 2;
-    if (!hasWish || wantsDark == isDark(m_ownPalette))
+    if (!hasWish || wantsDark == Palettes::isDark(m_ownPalette))
         QApplication::setPalette(m_ownPalette);
     else
         QApplication::setPalette(wantsDark ? Palettes::dark() : Palettes::light());

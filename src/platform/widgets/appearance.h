@@ -13,8 +13,8 @@ class QDBusVariant;
 ///
 /// Asked of the desktop's settings portal without waiting for its answer:
 /// dark or light, high contrast, less motion. Where the portal's wish for dark
-/// or light differs from the palette in force, a palette of ours is laid; where
-/// there is no portal, nothing changes.
+/// or light differs from the palette in force, a palette of ours is laid; under
+/// high contrast controls have outlines; where there is no portal, nothing changes.
 /// Source: freedesktop.org, org.freedesktop.portal.Settings.
 class Appearance : public QObject {
     Q_OBJECT
@@ -41,6 +41,7 @@ private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void ask(const QString& group, const QString& key);
     void take(const QString& group, const QString& key, QVariant value);
     void applyScheme();
+    static void applyContrast();
     void announce();
 
     QPalette m_ownPalette;

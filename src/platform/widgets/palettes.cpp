@@ -54,3 +54,13 @@ QPalette Palettes::light()
     palette.setColor(QPalette::PlaceholderText, QColor(0x6E6E6E));
     return palette;
 }
+
+bool Palettes::isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightnessF() < 0.5F;
+}
+
+QColor Palettes::secondaryText(const QPalette& palette)
+{
+    return isDark(palette) ? QColor(0xA9, 0xAE, 0xB4) : QColor(0x5F, 0x5F, 0x5F);
+}

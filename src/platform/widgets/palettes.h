@@ -4,7 +4,8 @@
 
 #include <QPalette>
 
-/// Palettes for the Fusion look, with texts that can be read.
+/// Palettes for the Fusion look, with texts that can be read, and what a palette
+/// in force calls for.
 namespace Palettes {
 
 [[nodiscard]] QPalette dark();
@@ -12,5 +13,11 @@ namespace Palettes {
 /// Fusion's own light palette, but with disabled and placeholder texts dark
 /// enough.
 [[nodiscard]] QPalette light();
+
+/// Whether `palette` is a dark one: light text on a dark window.
+[[nodiscard]] bool isDark(const QPalette& palette);
+
+/// The colour of text that steps back, such as headings of lists.
+[[nodiscard]] QColor secondaryText(const QPalette& palette);
 
 } // namespace Palettes

@@ -6,9 +6,10 @@
 #include "decks/deck_name.h"
 #include "platform/localized_text.h"
 #include "platform/platform.h"
+#include "platform/widgets/logo.h"
 #include "ui/colours.h"
-#include "ui/logo.h"
 
+#include <QAccessibleWidget>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -80,11 +81,19 @@ QString pictureName(const CardPicture& picture)
     return name == key ? picture.name : name;
 }
 
+/// To a screen reader the strip is one picture; it skips plain widgets.
+QAccessibleInterface* makeAccessible(const QString&, QObject* object)
+{
+    auto* const preview = qobject_cast<DeckPreview*>(object);
+    return preview == nullptr ? nullptr : new QAccessibleWidget(preview, QAccessible::Graphic);
+}
+
 } // namespace
 
 DeckPreview::DeckPreview(QWidget* parent)
     : QWidget(parent)
 {
+    QAccessible::installFactory(makeAccessible);
     setFixedSize(sizeHint());
 }
 

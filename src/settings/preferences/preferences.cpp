@@ -44,10 +44,11 @@ void showValue(QSpinBox* stepper, int value)
     stepper->setValue(value);
 }
 
-/// Stores under `key` what the user makes of `box`.
+/// Stores under `key` what the user makes of `box`. A screen reader toggles it
+/// without a click.
 void keepStored(QCheckBox* box, QLatin1String key)
 {
-    QObject::connect(box, &QCheckBox::clicked, box, [key](bool isChecked) {
+    QObject::connect(box, &QCheckBox::toggled, box, [key](bool isChecked) {
         platform().defaults.setInteger(key, isChecked ? 1 : 0);
     });
 }
@@ -64,6 +65,8 @@ Preferences::Preferences(MainWindowLink* link, QWidget* parent)
     // A folder's name, however long, must not widen the window.
     m_photosState->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_ui->photosRow->insertWidget(0, m_photosState, 1);
+    // A screen reader reads in this order.
+    m_photosState->stackUnder(m_ui->photosButton);
     viewDidLoad();
 }
 
@@ -186,15 +189,28 @@ void Preferences::showStoredSettings()
 
 void Preferences::connectControls()
 {
-    connect(roundsStepper(), &QSpinBox::valueChanged, this, &Preferences::stepper_value_rounds);
-    connect(cardsStepper(), &QSpinBox::valueChanged, this, &Preferences::stepper_value_cards);
+    const auto connectStepper = [this](QSpinBox* stepper, void (Preferences::*action)(),
+                                       QLatin1String key, int most) {
+        connect(stepper, &QSpinBox::valueChanged, this, [=, this] {
+            // A screen reader can change a stepper that is locked, or disabled with the pane.
+            if (stepper->isEnabled())
+                (this->*action)();
+            else
+                showValue(stepper, storedValue(key, most));
+        });
+    };
+    connectStepper(roundsStepper(), &Preferences::stepper_value_rounds, SettingsKeys::AmountRounds,
+                   mostRounds);
+    connectStepper(cardsStepper(), &Preferences::stepper_value_cards, SettingsKeys::AmountCards,
+                   mostLayouts);
     connect(cardDeck_dropdown(), &QComboBox::activated, this, &Preferences::carddeck_changed);
 
     keepStored(m_ui->removeMatch, SettingsKeys::RemoveMatch);
     keepStored(paircade_album(), SettingsKeys::PaircadeAlbum);
+    connectPhotoControls();
     keepStored(m_ui->playSounds, SettingsKeys::PlaySounds);
     keepStored(m_ui->launchInFullscreen, SettingsKeys::LaunchInFullscreen);
-    connect(m_ui->playSounds, &QCheckBox::clicked, this, [](bool isChecked) {
+    connect(m_ui->playSounds, &QCheckBox::toggled, this, [](bool isChecked) {
         if (isChecked)
             platform().audio.prepare();
     });

@@ -84,7 +84,9 @@ private:
     void updateCardsLabel(int index);
     void describeSteppers();
     void showDeck();
+    void connectPhotoControls();
     void updatePhotosRow();
+    static void openPaircadeAlbum();
     void followMainWindow();
     void showVolume();
     void storeVolume();

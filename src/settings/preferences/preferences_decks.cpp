@@ -3,16 +3,14 @@
 // The part of the preferences that chooses the deck.
 #include "decks/deck_name.h"
 #include "platform/collation.h"
-#include "platform/localized_text.h"
 #include "platform/photo_library.h"
 #include "platform/platform.h"
 #include "platform/trim.h"
 #include "platform/user_defaults.h"
-#include "platform/widgets/control_text.h"
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
-#include "ui/elided_label.h"
 
+#include <QSignalBlocker>
 #include <algorithm>
 #include <ui_preferences.h>
 
@@ -32,7 +30,10 @@ void Preferences::updatePaircadeAlbumState()
     paircade_album()->setEnabled(isPhotoLibrary);
     if (isPhotoLibrary)
         return;
-    paircade_album()->setChecked(false);
+    {
+        const QSignalBlocker blocker(paircade_album());
+        paircade_album()->setChecked(false);
+    }
     platform().defaults.setInteger(SettingsKeys::PaircadeAlbum, 0);
 }
 
@@ -83,26 +84,4 @@ QStringList Preferences::fetchAvailablePhotoAlbums() const
 void Preferences::showDeck()
 {
     m_ui->deckPreview->setDeck(cardDeck_dropdown()->currentText());
-}
-
-void Preferences::updatePhotosRow()
-{
-    const PhotoLibrary& photos = platform().photos;
-    const PhotoAuthorization status = photos.authorizationStatus();
-    QString state = localizedText("preferences_photos_none");
-    if (status == PhotoAuthorization::notDetermined)
-        state = localizedText("preferences_photos_not_asked");
-    else if (status == PhotoAuthorization::authorized)
-        state = localizedText("preferences_photos_all");
-    else if (status == PhotoAuthorization::limited)
-        state = localizedText("preferences_photos_only", {photos.limitedTo()});
-    m_photosState->setText(state);
-
-    const bool wasNeverAsked =
-        status == PhotoAuthorization::notDetermined || status == PhotoAuthorization::restricted;
-    m_ui->photosButton->setText(
-        controlText(wasNeverAsked ? "preferences_photos_allow" : "preferences_photos_change"));
-    const QString reason = localizedText("preferences_photos_unavailable");
-    m_ui->photosButton->setToolTip(reason);
-    m_ui->photosButton->setAccessibleDescription(state + QStringLiteral(". ") + reason);
 }

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The half of the confinement that concerns system calls, by seccomp.
+#include "photos/confinement.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
+#include <memory>
+#include <sched.h>
+#include <seccomp.h>
+#include <sys/prctl.h>
+#include <type_traits>
+#include <unistd.h>
+
+namespace {
+
+// What decoding takes, with the threads of some decoders. All else fails as if the
+// kernel did not know it: libraries then try an older call or do without.
+constexpr std::array allowed = {
+    SCMP_SYS(read),
+    SCMP_SYS(readv),
+    SCMP_SYS(pread64),
+    SCMP_SYS(preadv),
+    SCMP_SYS(write),
+    SCMP_SYS(writev),
+    SCMP_SYS(close),
+    SCMP_SYS(lseek),
+    SCMP_SYS(_llseek),
+    SCMP_SYS(dup),
+    SCMP_SYS(fstat),
+    SCMP_SYS(fstat64),
+    SCMP_SYS(stat),
+    SCMP_SYS(stat64),
+    SCMP_SYS(lstat),
+    SCMP_SYS(lstat64),
+    SCMP_SYS(newfstatat),
+    SCMP_SYS(fstatat64),
+    SCMP_SYS(statx),
+    SCMP_SYS(statfs),
+    SCMP_SYS(statfs64),
+    SCMP_SYS(fstatfs),
+    SCMP_SYS(fstatfs64),
+    SCMP_SYS(access),
+    SCMP_SYS(faccessat),
+    SCMP_SYS(faccessat2),
+    SCMP_SYS(readlink),
+    SCMP_SYS(readlinkat),
+    SCMP_SYS(getcwd),
+    SCMP_SYS(getdents),
+    SCMP_SYS(getdents64),
+    SCMP_SYS(fcntl),
+    SCMP_SYS(fcntl64),
+    SCMP_SYS(fadvise64),
+    SCMP_SYS(fadvise64_64),
+    SCMP_SYS(poll),
+    SCMP_SYS(ppoll),
+    SCMP_SYS(pipe2),
+    SCMP_SYS(eventfd2),
+    SCMP_SYS(mmap),
+    SCMP_SYS(mmap2),
+    SCMP_SYS(munmap),
+    SCMP_SYS(mremap),
+    SCMP_SYS(mprotect),
+    SCMP_SYS(madvise),
+    SCMP_SYS(brk),
+    SCMP_SYS(membarrier),
+    SCMP_SYS(rt_sigaction),
+    SCMP_SYS(rt_sigprocmask),
+    SCMP_SYS(rt_sigreturn),
+    SCMP_SYS(sigreturn),
+    SCMP_SYS(sigaltstack),
+    SCMP_SYS(restart_syscall),
+    SCMP_SYS(futex),
+    SCMP_SYS(futex_time64),
+    SCMP_SYS(futex_waitv),
+    SCMP_SYS(set_robust_list),
+    SCMP_SYS(rseq),
+    SCMP_SYS(set_tid_address),
+    SCMP_SYS(arch_prctl),
+    SCMP_SYS(set_tls),
+    SCMP_SYS(sched_yield),
+    SCMP_SYS(sched_getaffinity),
+    SCMP_SYS(sched_getparam),
+    SCMP_SYS(sched_getscheduler),
+    SCMP_SYS(sched_get_priority_max),
+    SCMP_SYS(sched_get_priority_min),
+    SCMP_SYS(getcpu),
+    SCMP_SYS(gettid),
+    SCMP_SYS(getpid),
+    SCMP_SYS(getuid),
+    SCMP_SYS(geteuid),
+    SCMP_SYS(getgid),
+    SCMP_SYS(getegid),
+    SCMP_SYS(getrusage),
+    SCMP_SYS(getrlimit),
+    SCMP_SYS(ugetrlimit),
+    SCMP_SYS(setrlimit),
+    SCMP_SYS(clock_gettime),
+    SCMP_SYS(clock_gettime64),
+    SCMP_SYS(clock_getres),
+    SCMP_SYS(clock_nanosleep),
+    SCMP_SYS(clock_nanosleep_time64),
+    SCMP_SYS(nanosleep),
+    SCMP_SYS(gettimeofday),
+    SCMP_SYS(time),
+    SCMP_SYS(times),
+    SCMP_SYS(getrandom),
+    SCMP_SYS(uname),
+    SCMP_SYS(sysinfo),
+    SCMP_SYS(exit),
+    SCMP_SYS(exit_group),
+};
+
+constexpr std::uint64_t writing =
+    O_WRONLY | O_RDWR | O_CREAT | O_TRUNC | O_APPEND | (O_TMPFILE & ~O_DIRECTORY);
+
+} // namespace
+
+bool confineSystemCalls()
+{
+    const std::unique_ptr<std::remove_pointer_t<scmp_filter_ctx>, void (*)(scmp_filter_ctx)> filter(
+        seccomp_init(SCMP_ACT_ERRNO(ENOSYS)), seccomp_release);
+    if (!filter)
+        return false;
+    const auto allow = [&filter](int call, auto... conditions) {
+        // A call that this architecture does not have needs no rule.
+        (void)seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, unsigned{sizeof...(conditions)},
+                               conditions...);
+    };
+    for (const int call : allowed)
+        allow(call);
+    // Opening for reading only, no new processes but threads, limits and signals of
+    // this process only, names for threads.
+    allow(SCMP_SYS(open), SCMP_A1(SCMP_CMP_MASKED_EQ, writing, 0));
+    allow(SCMP_SYS(openat), SCMP_A2(SCMP_CMP_MASKED_EQ, writing, 0));
+    allow(SCMP_SYS(clone), SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD));
+    allow(SCMP_SYS(prlimit64), SCMP_A0(SCMP_CMP_EQ, 0));
+    allow(SCMP_SYS(tgkill), SCMP_A0(SCMP_CMP_EQ, std::uint64_t(::getpid())));
+    allow(SCMP_SYS(prctl), SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME));
+    return seccomp_load(filter.get()) == 0;
+}

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/photo_fetch.h"
+
+#include "platform/collation.h"
+
+#include <QCursor>
+#include <QFile>
+#include <QGuiApplication>
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+using PhotoMessages::Frame;
+using PhotoMessages::Kind;
+
+namespace {
+
+// More than any library holds, and still no burden: a helper gone astray could go
+// on telling until its time is over.
+constexpr qsizetype mostPathBytes = 256'000'000;
+
+} // namespace
+
+class PhotoFetch::BusyPointer {
+public:
+    BusyPointer()
+    {
+        if (m_isShown)
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~BusyPointer()
+    {
+        if (m_isShown)
+            QGuiApplication::restoreOverrideCursor();
+    }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    bool m_isShown = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+};
+
+PhotoFetch::PhotoFetch(QString helper, QByteArray library)
+    : m_program(std::move(helper))
+    , m_library(std::move(library))
+    , m_pointer(std::make_unique<BusyPointer>())
+{
+}
+
+PhotoFetch::~PhotoFetch() = default;
+
+void PhotoFetch::ask(Kind request, QByteArrayView content)
+{
+    const bool mayStart = !m_library.isEmpty() && !m_isGivenUp && !m_deadline.hasExpired();
+    if (mayStart && (!m_helper || m_helper->state() != PhotoHelper::State::running))
+        m_helper = std::make_unique<PhotoHelper>(m_program, m_library);
+    if (m_helper)
+        m_helper->send(request, content);
+}
+
+void PhotoFetch::list(Kind request, QByteArrayView content,
+                      const std::function<void(const Frame&)>& take)
+{
+    ask(request, content);
+    qsizetype total = 0;
+    while (m_helper && total < mostPathBytes) {
+        const std::optional<Frame> reply = m_helper->receive(m_deadline);
+        if (!reply || reply->kind == Kind::done)
+            return;
+        total += reply->content.size();
+        take(*reply);
+    }
+    // Whatever else it has to say belongs to this list.
+    m_helper.reset();
+}
+
+std::vector<PhotoAlbum> PhotoFetch::albums(Counted counted)
+{
+    struct Listed {
+        QString title;
+        std::int64_t count;
+        QByteArray folder;
+    };
+    std::vector<Listed> listed;
+    const Kind request = counted == Counted::no ? Kind::albums : Kind::countedAlbums;
+    list(request, {}, [&listed](const Frame& reply) {
+        const qsizetype titleEnd = reply.content.indexOf('\0', 1);
+        if (reply.kind == Kind::album && titleEnd > 0)
+            listed.push_back({QFile::decodeName(reply.content.mid(1, titleEnd - 1)),
+                              reply.content.front() != '\0' ? 1 : 0,
+                              reply.content.mid(titleEnd + 1)});
+    });
+    std::ranges::stable_sort(listed, sortsBefore, &Listed::title);
+    std::vector<PhotoAlbum> albums;
+    for (const Listed& album : listed)
+        albums.push_back({album.title, album.count, album.folder});
+    return albums;
+}
+
+PhotoAssets PhotoFetch::assetList(Kind request, QByteArrayView content)
+{
+    PhotoAssets assets;
+    list(request, content, [&assets](const Frame& reply) {
+        if (reply.kind != Kind::paths)
+            return;
+        for (qsizetype begin = 0, end = 0; (end = reply.content.indexOf('\0', begin)) >= 0;
+             begin = end + 1)
+            assets.push_back(reply.content.mid(begin, end - begin));
+    });
+    return assets;
+}
+
+PhotoAssets PhotoFetch::images()
+{
+    return assetList(Kind::images, {});
+}
+
+PhotoAssets PhotoFetch::assets(const PhotoAlbum& album)
+{
+    return assetList(Kind::assets, album.folder);
+}
+
+QImage PhotoFetch::image(const PhotoAsset& asset)
+{
+    ask(Kind::picture, asset);
+    const std::optional<Frame> reply = m_helper ? m_helper->receive(m_deadline) : std::nullopt;
+    m_isGivenUp = m_isGivenUp || (m_helper && m_helper->state() == PhotoHelper::State::stalled);
+    if (!reply || (reply->kind == Kind::pixels && reply->content.isEmpty()))
+        return {};
+    if (reply->kind != Kind::pixels || reply->content.size() != 1 + PhotoMessages::pictureBytes) {
+        m_helper.reset(); // It answers another question.
+        return {};
+    }
+    const int edge = PhotoMessages::pictureEdge;
+    QImage image(edge, edge,
+                 reply->content.front() != '\0' ? QImage::Format_ARGB32_Premultiplied
+                                                : QImage::Format_RGB32);
+    std::memcpy(image.bits(), reply->content.constData() + 1, PhotoMessages::pictureBytes);
+    return image;
+}

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program itself in a broken world: it comes up, ends when told to, and spoils no file.
+#include "support/broken_world.h"
+#include "support/files.h"
+#include "support/program.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+class BrokenStartTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theProgramStartsAndEnds_data()
+    {
+        QTest::addColumn<QString>("breakIt");   // shell, in the home
+        QTest::addColumn<QStringList>("stays"); // what is there then and must not change
+        const auto row = [](const char* name, const char* breakIt, const QStringList& stays) {
+            QTest::newRow(name) << QString::fromLatin1(breakIt) << stays;
+        };
+        const QString settings = u"config/Paircade/Paircade.conf"_s;
+        const QString results = u"data/Paircade/highscores.json"_s;
+        const QString lock = u"data/Paircade/lock"_s;
+        row("a folder of settings that cannot be written", "chmod 555 config/Paircade",
+            {u"config/Paircade"_s, settings});
+        row("settings that cannot be written", "chmod 444 config/Paircade/Paircade.conf",
+            {settings});
+        row("no folder of settings, and none can be made", "rm -r config/*; chmod 555 config",
+            {u"config"_s, settings});
+        row("a folder of results that cannot be written", "chmod 555 data/Paircade",
+            {u"data/Paircade"_s, results});
+        row("no folder of results, and none can be made", "rm -r data/*; chmod 555 data",
+            {u"data"_s, results});
+        row("a pipe as settings", "rm config/*/*; mkfifo config/Paircade/Paircade.conf",
+            {settings});
+        row("a pipe as the settings' lock", "mkfifo config/Paircade/Paircade.conf.lock",
+            {settings, settings + u".lock"_s});
+        row("a folder as the settings' lock", "mkdir config/Paircade/Paircade.conf.lock",
+            {settings, settings + u".lock"_s});
+        row("a file as the folder of settings", "rm -r config; echo > config", {u"config"_s});
+        row("a file as the folder of results", "rm -r data; echo > data", {u"data"_s});
+        row("a pipe as results", "rm data/*/*; mkfifo data/Paircade/highscores.json", {results});
+        row("garbage as results", "echo { >data/Paircade/highscores.json", {results});
+        row("a lock cut short by a crash", ": >data/Paircade/lock", {results});
+        row("a lock from before the machine was renamed",
+            "printf '1\\npaircade\\nelsewhere\\n' >data/Paircade/lock", {results});
+        row("a pipe as the lock", "mkfifo data/Paircade/lock", {results, lock});
+        row("a folder as the lock", "mkdir data/Paircade/lock", {results, lock});
+        row("a link to nowhere as the lock", "ln -s nowhere data/Paircade/lock", {results, lock});
+        row("no runtime folder", "rm -r runtime; echo >runtime", {results, u"runtime"_s});
+        row("no resources", "rm -r share", {results});
+        row("a pipe as logo and texts",
+            "rm -r share; mkdir -p share/paircade/translations; cd share/paircade;"
+            "mkfifo logo.png icon.png translations/paircade_en.qm",
+            {results, u"share/paircade/logo.png"_s, u"share/paircade/translations"_s});
+    }
+
+    void theProgramStartsAndEnds()
+    {
+        QFETCH(const QString, breakIt);
+        QFETCH(const QStringList, stays);
+        const QTemporaryDir home;
+        QProcess shell;
+        shell.setWorkingDirectory(home.path());
+        const QString bin = QCoreApplication::applicationDirPath();
+        shell.start(u"sh"_s, {u"-ec"_s,
+                              u"mkdir -p bin config/Paircade data/Paircade; mkdir -m 700 runtime;"
+                              "cp \"$0\"/paircade bin; cp -r \"$0\"/../share .;"
+                              "printf '[General]\\nKept=1\\n' >config/Paircade/Paircade.conf;"
+                              "echo '[]' >data/Paircade/highscores.json;"_s +
+                                  breakIt,
+                              bin});
+        QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
+
+        const AsNobody nobody(home.path());
+        const auto identities = [&] {
+            std::vector<decltype(identity({}))> found;
+            for (const QString& path : stays)
+                found.push_back(identity(home.filePath(path)));
+            return found;
+        };
+        const auto before = identities();
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // without a file of ours
+        Program game(home.path(), home.filePath(u"bin/paircade"_s));
+        QVERIFY2(game.comesUp(), game.process.readAllStandardError());
+        game.signal(SIGTERM);
+        QVERIFY(game.endsWell());
+        QVERIFY(identities() == before);
+    }
+};
+
+QTEST_MAIN(BrokenStartTest)
+#include "broken_start_test.moc"

@@ -1,0 +1,379 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Where everything lies, how large it is and in which font, measured on the real
+// window; and that all of it can be read and reached on small and large screens.
+#include "platform/format_text.h"
+#include "settings/settings_keys.h"
+#include "support/game_window.h"
+#include "ui/elided_label.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <array>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// `count` results of each mode for `layout`, by players called `name`.
+void writeResults(TestPlatform& platform, qint64 layout, int count, const QString& name)
+{
+    QByteArrayList records;
+    for (int i = 0; i < count * 2; ++i) {
+        records
+            << fillFormat(
+                   uR"({"id": "%1", "gameMode": "%2", "playerName": "%3", "secondPlayerName": "%3",
+                            "elapsedSeconds": %4, "failedAttempts": %4, "firstPlayerScore": %4,
+                            "secondPlayerScore": 0, "amountCards": %5, "amountRounds": 1})",
+                   {QUuid::createUuid().toString(QUuid::WithoutBraces),
+                    i % 2 == 0 ? u"solo"_s : u"versus"_s, name, 11 + i, layout})
+                   .toUtf8();
+    }
+    platform.writeHighscoreFile('[' + records.join(',') + ']');
+}
+
+enum class Mode { solo, versus, both };
+
+/// A place in the sidebar, from top to bottom.
+struct Place {
+    const char* name;
+    Mode mode;
+    int pixelSize;
+    int weight;
+    bool isMonospaced;
+    int width; ///< 0: what the text asks for.
+    int above; ///< In addition to the gap of 12.
+    int below;
+};
+
+constexpr int semibold = 600;
+constexpr std::array sidebar{
+    Place{"pairingLine", Mode::versus, 16, semibold, false, 180, 0, 0},
+    Place{"firstScoreLine", Mode::versus, 14, semibold, true, 220, 0, 0},
+    Place{"secondScoreLine", Mode::versus, 14, semibold, true, 220, 0, 0},
+    Place{"nameLine", Mode::solo, 18, semibold, false, 180, 0, 0},
+    Place{"timeLine", Mode::solo, 14, semibold, true, 220, 0, 0},
+    Place{"failuresLine", Mode::solo, 14, semibold, true, 220, 0, 0},
+    Place{"bestTimesHeading", Mode::solo, 13, semibold, false, 220, 12, 0},
+    Place{"bestTimes1", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestTimes2", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestFailuresHeading", Mode::solo, 13, semibold, false, 220, 10, 0},
+    Place{"bestFailures1", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestFailures2", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestVersusHeading", Mode::versus, 13, semibold, false, 220, 12, 0},
+    Place{"bestVersus1", Mode::versus, 12, 400, true, 220, 0, 0},
+    Place{"bestVersus2", Mode::versus, 12, 400, true, 220, 0, 0},
+    Place{"resetButton", Mode::both, 12, semibold, false, 0, 10, 0},
+    Place{"reportButton", Mode::both, 12, semibold, false, 0, 6, 0},
+    Place{"versusCheckbox", Mode::both, 13, semibold, false, 220, 0, 8},
+    Place{"endButton", Mode::both, 12, semibold, false, 0, 6, 0},
+};
+
+} // namespace
+
+class GeometryTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingHasItsPlaceAndFont_data() { addRows({1, 2, 3, 4, 5, 6}, {u"en"_s}); }
+
+    void everythingHasItsPlaceAndFont()
+    {
+        openWindow(2, u"Mia"_s);
+        for (const bool isVersus : {false, true}) {
+            if (isVersus)
+                m_window->click(child("versusCheckbox"));
+            measureAll(isVersus, false);
+            typeNames(isVersus, u" Ann "_s);
+            measureAll(isVersus, true);
+            m_window->click(startButton(isVersus));
+            measureAll(isVersus, true);
+            m_window->click(child("endButton"));
+        }
+    }
+
+    void everythingCanBeReachedAndRead_data() { addRows({1, 6}, {u"en"_s, u"de"_s}); }
+
+    void everythingCanBeReachedAndRead()
+    {
+        const QString name(200, u'W');
+        openWindow(5, name);
+        for (const bool isVersus : {false, true}) {
+            if (isVersus)
+                m_window->click(reach(child("versusCheckbox")));
+            QCOMPARE(m_window->text(u"headerText"_s), QString());
+            typeNames(isVersus, name);
+            reachAll();
+            m_window->click(reach(startButton(isVersus)));
+            reachAll();
+            while (m_window->game().isGameActive())
+                findPair(m_window->game());
+            QCoreApplication::processEvents();
+            // Behind the form of its own mode stands the result.
+            QCOMPARE(m_window->text(u"headerText"_s), m_window->game().winnerText());
+            reachAll();
+        }
+    }
+
+    /// Wherever a card lies, its pixels are the same, at any pixel ratio.
+    void everyBackIsDrawnAlike_data() { addRows({1, 6}, {u"en"_s}); }
+
+    void everyBackIsDrawnAlike()
+    {
+        openWindow(0, QString());
+        typeNames(false, u"Ann"_s);
+        m_window->click(reach(startButton(false)));
+        QTest::mouseMove(m_window->window().windowHandle(), QPoint(1, 1));
+        QTest::qWait(300); // until no card shows the pointer
+        const QImage shown = m_window->window().grab().toImage();
+        const auto back = [&](std::size_t position) {
+            QWidget& card = m_window->card(position);
+            const double ratio = shown.devicePixelRatio();
+            const QPointF corner = QPointF(card.mapTo(&m_window->window(), QPoint())) * ratio;
+            const int edge = qFloor(card.width() * ratio) - 1;
+            return shown.copy(qRound(corner.x()), qRound(corner.y()), edge, edge);
+        };
+        const QImage first = back(0);
+        for (std::size_t i = 1; i < m_window->game().cards().size(); ++i) {
+            if (seen(m_window->card(i)) == place(m_window->card(i)))
+                QVERIFY2(back(i) == first, qPrintable(QString::number(i)));
+        }
+    }
+
+    void cleanup() { m_window.reset(); }
+
+private:
+    static void addRows(std::initializer_list<int> layouts, const QStringList& languages)
+    {
+        QTest::addColumn<int>("layout");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<bool>("isFullScreen");
+        for (const int layout : layouts) {
+            for (const QString& language : languages) {
+                for (const bool isFullScreen : {false, true})
+                    QTest::addRow("layout %d, %s%s", layout, qPrintable(language),
+                                  isFullScreen ? ", full screen" : "")
+                        << layout << language << isFullScreen;
+            }
+        }
+    }
+
+    /// The window of the row, with `count` results in each list.
+    void openWindow(int count, const QString& name)
+    {
+        QFETCH(int, layout);
+        QFETCH(QString, language);
+        QFETCH(bool, isFullScreen);
+        m_window = std::make_unique<GameWindow>(
+            [&](TestPlatform& platform) {
+                platform.defaults->setInteger(SettingsKeys::AmountCards, layout);
+                platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, isFullScreen);
+                writeResults(platform, layout, count, name);
+            },
+            language);
+        const QRect screen = m_window->window().screen()->geometry();
+        QTRY_COMPARE(m_window->window().isFullScreen(), isFullScreen);
+        if (isFullScreen)
+            QTRY_COMPARE(m_window->window().geometry(), screen);
+        QVERIFY(screen.contains(m_window->window().geometry()));
+    }
+
+    void typeNames(bool isVersus, const QString& name)
+    {
+        for (const char* const field : {"playerOneName", "playerTwoName"})
+            m_window->child<QLineEdit>(QLatin1String(isVersus ? field : "playerName")).insert(name);
+        QCoreApplication::processEvents();
+    }
+
+    QWidget& child(const char* name) { return m_window->child<QWidget>(QLatin1String(name)); }
+    QWidget& startButton(bool isVersus)
+    {
+        return child(isVersus ? "startVersusButton" : "startButton");
+    }
+    ContentView& screen() { return *m_window->delegate.contentView(); }
+    QRect place(const QWidget& widget)
+    {
+        return {widget.mapTo(&screen(), QPoint()), widget.size()};
+    }
+
+    void measureAll(bool isVersus, bool hasNames)
+    {
+        const bool isActive = m_window->game().isGameActive();
+        const int width = screen().width();
+        const int height = screen().height();
+        QCOMPARE(place(child("logo")), QRect(16, 22, 180, 180));
+        QCOMPARE(place(child("divider")), QRect(236, 0, 1, height));
+
+        auto& title = m_window->child<QLabel>(u"headerText"_s);
+        QCOMPARE(place(title).left(), 236);
+        QCOMPARE(place(title).right() + 1, width - 16);
+        QCOMPARE(place(title).center().y(), QRect(0, 0, 1, 60).center().y());
+        QCOMPARE(title.alignment(), Qt::AlignCenter);
+        compareFont(title, 30, 700, false);
+        QCOMPARE(title.text(), isActive ? m_window->game().headerText() : QString());
+
+        measureSidebar(isVersus, isActive, hasNames);
+        for (const char* const name : {"playerName", "startButton"})
+            QCOMPARE(child(name).isVisible(), !isActive && !isVersus);
+        for (const char* const name : {"playerOneName", "playerTwoName", "startVersusButton"})
+            QCOMPARE(child(name).isVisible(), !isActive && isVersus);
+        QCOMPARE(child("gameBoard").isVisible(), isActive);
+        if (isActive)
+            measureBoard();
+        else
+            measureForm(isVersus, hasNames);
+    }
+
+    void measureSidebar(bool isVersus, bool isActive, bool hasNames)
+    {
+        int y = 22 + 180;
+        for (const Place& expected : sidebar) {
+            const QWidget& widget = child(expected.name);
+            const bool isOfMode =
+                expected.mode == Mode::both || (expected.mode == Mode::versus) == isVersus;
+            const QLatin1String name(expected.name);
+            const bool isShown = isOfMode && (name != "nameLine"_L1 || hasNames) &&
+                                 (name != "endButton"_L1 || isActive);
+            QVERIFY2(widget.isVisible() == isShown, expected.name);
+            if (!isShown)
+                continue;
+            const QRect rect = place(widget);
+            y += 12 + expected.above;
+            QVERIFY2(rect.topLeft() == QPoint(16, y), expected.name);
+            QVERIFY2(expected.width == 0 || rect.width() == expected.width, expected.name);
+            compareFont(widget, expected.pixelSize, expected.weight, expected.isMonospaced);
+            y += rect.height() + expected.below;
+        }
+        QCOMPARE(child("versusCheckbox").isEnabled(), !isActive);
+        const auto colour = [this](const char* name, QPalette::ColorRole role) {
+            return child(name).palette().color(QPalette::Active, role).name(QColor::HexArgb);
+        };
+        for (const char* const name : {"pairingLine", "nameLine"})
+            QCOMPARE(colour(name, QPalette::WindowText), u"#f2007aff"_s); // 95 %
+        for (const char* const name : {"bestTimesHeading", "bestFailuresHeading"})
+            QCOMPARE(colour(name, QPalette::WindowText), u"#ff5f5f5f"_s);
+        QCOMPARE(colour("endButton", QPalette::ButtonText), u"#ffff3b30"_s);
+    }
+
+    /// The controls of the form lie in the middle of the main area, 16 apart.
+    void measureForm(bool isVersus, bool hasNames)
+    {
+        const QWidgetList column =
+            isVersus
+                ? QWidgetList{&child("playerOneName"), &child("playerTwoName"), &startButton(true)}
+                : QWidgetList{&child("playerName"), &startButton(false)};
+        const double middle = 236 + (screen().width() - 236) / 2.0;
+        int y = place(*column.constFirst()).top();
+        QVERIFY(qAbs((y + place(*column.constLast()).bottom() + 1) / 2.0 -
+                     (60 + (screen().height() - 60) / 2.0)) <= 0.5);
+        for (const QWidget* const control : column) {
+            const QRect rect = place(*control);
+            QCOMPARE(rect.top(), y);
+            QVERIFY(qAbs(rect.left() + rect.width() / 2.0 - middle) <= 0.5);
+            y = rect.bottom() + 1 + 16;
+            if (control == column.constLast())
+                continue;
+            QCOMPARE(rect.width(), isVersus ? 320 : 300);
+            compareFont(*control, 18, 400, false);
+        }
+        QCOMPARE(column.constLast()->isEnabled(), hasNames);
+        if (isVersus)
+            QCOMPARE(column.constLast()->font(), QApplication::font("QPushButton"));
+        else
+            compareFont(*column.constLast(), 14, semibold, false);
+    }
+
+    void measureBoard()
+    {
+        const int columns = m_window->game().cardColumns();
+        const int rows = m_window->game().cardRows();
+        const double edge = std::min((screen().width() - 300.0 - 20 * (columns - 1)) / columns,
+                                     (screen().height() - 160.0 - 20 * (rows - 1)) / rows);
+        const double gridHeight = rows * (edge + 20) - 20;
+        const double left = 236 + (screen().width() - 236 - columns * (edge + 20) + 20) / 2;
+        // Two spacers share the rest, the lower one being at least 20.
+        const double rest = screen().height() - 60 - 2 * 12 - 2 * 20 - gridHeight;
+        const double top = 60 + 12 + std::min(rest / 2, rest - 20) + 20;
+        for (int i = 0; i < columns * rows; ++i) {
+            const QRect card = place(m_window->card(std::size_t(i)));
+            // Half a point for the grid's corner, half for the card's place in it.
+            QVERIFY(qAbs(card.left() - (left + i % columns * (edge + 20))) <= 1);
+            QVERIFY(qAbs(card.top() - (top + i / columns * (edge + 20))) <= 1);
+            QVERIFY(card.width() == card.height() && qAbs(card.width() - edge) <= 0.5);
+        }
+    }
+
+    static void compareFont(const QWidget& widget, int pixelSize, int weight, bool isMonospaced)
+    {
+        const QByteArray name = widget.objectName().toUtf8();
+        QVERIFY2(widget.font().pixelSize() == pixelSize, name);
+        QVERIFY2(widget.font().weight() == weight, name);
+        const QString family = QFontDatabase::systemFont(isMonospaced ? QFontDatabase::FixedFont
+                                                                      : QFontDatabase::GeneralFont)
+                                   .family();
+        QVERIFY2(widget.font().family() == family, name);
+    }
+
+    /// Scrolls until `widget` is seen.
+    QWidget& reach(QWidget& widget)
+    {
+        for (QWidget* above = widget.parentWidget(); above != nullptr;
+             above = above->parentWidget()) {
+            if (auto* const area = qobject_cast<QScrollArea*>(above))
+                area->ensureWidgetVisible(&widget, 0, 0);
+        }
+        return widget;
+    }
+
+    /// The part of `widget` that no scroll area cuts off.
+    QRect seen(const QWidget& widget)
+    {
+        QRect rect = place(widget) & screen().rect();
+        for (const QWidget* above = widget.parentWidget(); above != &screen();
+             above = above->parentWidget())
+            rect &= place(*above);
+        return rect;
+    }
+
+    /// Every text, control and card can be seen whole, and lies on no other.
+    void reachAll()
+    {
+        QWidgetList widgets;
+        for (QWidget* const widget : screen().findChildren<QWidget*>()) {
+            if (widget->isVisible() && (qobject_cast<QLabel*>(widget) != nullptr ||
+                                        qobject_cast<QLineEdit*>(widget) != nullptr ||
+                                        qobject_cast<QAbstractButton*>(widget) != nullptr))
+                widgets << widget;
+        }
+        for (QWidget* const widget : widgets) {
+            const QByteArray name = widget->objectName().toUtf8();
+            reach(*widget);
+            QVERIFY2(seen(*widget) == place(*widget), name);
+            QVERIFY2(!widget->parentWidget()->autoFillBackground(), name); // see plain_area.cpp
+            for (const QWidget* const other : widgets)
+                QVERIFY2(other == widget || !seen(*other).intersects(seen(*widget)),
+                         name + " lies on " + other->objectName().toUtf8());
+            if (const auto* const line = qobject_cast<ElidedLabel*>(widget)) {
+                const bool isOnlyNames = name == "nameLine" || name == "pairingLine";
+                QVERIFY2(isOnlyNames || line->shownText().endsWith(line->text().right(3)), name);
+            } else if (qobject_cast<QPushButton*>(widget) != nullptr ||
+                       qobject_cast<QCheckBox*>(widget) != nullptr) {
+                QVERIFY2(widget->sizeHint().width() <= widget->width() &&
+                             widget->sizeHint().height() <= widget->height(),
+                         name);
+            }
+        }
+    }
+
+    std::unique_ptr<GameWindow> m_window{};
+};
+
+QTEST_MAIN(GeometryTest)
+#include "geometry_test.moc"

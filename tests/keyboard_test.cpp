@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The ways of the keyboard through every screen, and what can be seen of them.
+#include "platform/widgets/access_question.h"
+#include "platform/widgets/palettes.h"
+#include "support/game_window.h"
+#include "ui/colours.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <cmath>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// WCAG 2.1, relative luminance and contrast ratio.
+double luminance(const QColor& colour)
+{
+    const auto linear = [](float part) {
+        return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+/// The letters of what can be chosen by Alt and a letter on a screen, in use or not.
+QStringList mnemonics(QWidget& screen)
+{
+    QStringList texts;
+    for (const auto* const button : screen.findChildren<QAbstractButton*>()) {
+        if (button->isVisible() && !button->objectName().startsWith(u"card"_s))
+            texts << button->text();
+    }
+    for (const auto* const label : screen.findChildren<QLabel*>()) {
+        if (label->isVisible() && label->text().contains(u'&'))
+            texts << label->text();
+    }
+    return texts;
+}
+
+QStringList texts(const QList<QAction*>& actions)
+{
+    QStringList texts;
+    for (const QAction* const action : actions) {
+        if (!action->isSeparator())
+            texts << action->text();
+    }
+    return texts;
+}
+
+void checkMnemonics(const QStringList& texts)
+{
+    std::map<QString, QString> taken;
+    for (const QString& text : texts) {
+        const QString letter = QKeySequence::mnemonic(text).toString();
+        QVERIFY2(!letter.isEmpty(), qPrintable(text));
+        QVERIFY2(taken.emplace(letter, text).second, qPrintable(text + u" | "_s + taken[letter]));
+    }
+    QVERIFY(!taken.empty());
+}
+
+} // namespace
+
+class KeyboardTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tabGoesInReadingOrder_data()
+    {
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<bool>("isVersus");
+        QTest::addColumn<bool>("isStarted");
+        QTest::addColumn<QStringList>("stops");
+        const QStringList sidebar{u"resetButton"_s, u"reportButton"_s};
+        const QString mode = u"versusCheckbox"_s;
+        QTest::newRow("one player")
+            << QStringList{u"Ann"_s} << false << false
+            << sidebar + QStringList{mode, u"playerName"_s, u"startButton"_s};
+        QTest::newRow("two players")
+            << QStringList{u"Ann"_s, u"Ben"_s} << true << false
+            << sidebar + QStringList{mode, u"playerOneName"_s, u"playerTwoName"_s,
+                                     u"startVersusButton"_s};
+        QTest::newRow("a game: the board is one stop")
+            << QStringList{u"Ann"_s} << false << true
+            << sidebar + QStringList{u"endButton"_s, u"card5"_s};
+    }
+
+    void tabGoesInReadingOrder()
+    {
+        QFETCH(QStringList, names);
+        QFETCH(bool, isVersus);
+        QFETCH(bool, isStarted);
+        QFETCH(QStringList, stops);
+        GameWindow window;
+        if (isVersus) {
+            window.press(Qt::Key_M, Qt::AltModifier);
+            QTRY_VERIFY(window.game().isVersusMode());
+            QTest::qWait(20);
+            window.press(Qt::Key_Tab);
+        }
+        for (const QString& name : names) {
+            window.type(name);
+            window.press(Qt::Key_Tab);
+        }
+        if (isStarted) {
+            window.press(Qt::Key_Space);
+            for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right})
+                window.press(key);
+        }
+        // Round in full, from wherever it begins, and back.
+        const auto begin = stops.indexOf(window.focused());
+        QVERIFY2(begin >= 0, qPrintable(window.focused()));
+        for (qsizetype i = 1; i <= stops.size(); ++i) {
+            window.press(Qt::Key_Tab);
+            QCOMPARE(window.focused(), stops[(begin + i) % stops.size()]);
+        }
+        window.press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QCOMPARE(window.focused(), stops[(begin + stops.size() - 1) % stops.size()]);
+    }
+
+    void everyControlHasALetterOfItsOwn_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("English") << u"en"_s;
+        QTest::newRow("German") << u"de"_s;
+    }
+
+    void everyControlHasALetterOfItsOwn()
+    {
+        QFETCH(QString, language);
+        GameWindow window([](TestPlatform&) {}, language);
+        const QStringList menus = texts(window.window().menuBar()->actions());
+        for (const QAction* const menu : window.window().menuBar()->actions())
+            checkMnemonics(texts(menu->menu()->actions()));
+
+        checkMnemonics(menus + mnemonics(window.window()));
+        window.click(window.child<QCheckBox>(u"versusCheckbox"_s));
+        checkMnemonics(menus + mnemonics(window.window()));
+        window.click(window.child<QCheckBox>(u"versusCheckbox"_s));
+        window.child<QLineEdit>(u"playerName"_s).setFocus();
+        window.startGame();
+        checkMnemonics(menus + mnemonics(window.window()));
+
+        for (const auto status : {PhotoAuthorization::notDetermined, PhotoAuthorization::denied}) {
+            window.platform.photos.status = status;
+            window.delegate.showPreferences();
+            auto& preferences = window.child<QWidget>(u"Preferences"_s);
+            checkMnemonics(mnemonics(preferences));
+            delete &preferences;
+        }
+
+        bool isAsked = false;
+        QTimer::singleShot(100, &window.window(), [&isAsked] {
+            QWidget* const question = QApplication::activeModalWidget();
+            QVERIFY(question != nullptr);
+            isAsked = true;
+            checkMnemonics(mnemonics(*question));
+            question->close();
+        });
+        QVERIFY(!AccessQuestion(QString()).askForPhotoAccess());
+        QVERIFY(isAsked);
+    }
+
+    void aHeldShortcutActsOnce()
+    {
+        GameWindow window;
+        window.press(Qt::Key_M, Qt::AltModifier);
+        QTRY_VERIFY(window.game().isVersusMode());
+        for (int i = 0; i < 3; ++i) {
+            QTest::simulateEvent(window.window().windowHandle(), true, Qt::Key_M, Qt::AltModifier,
+                                 u"m"_s, true);
+            QTest::qWait(150); // as long as such a button is down
+        }
+        QVERIFY(window.game().isVersusMode());
+        QCOMPARE(window.game().playerOneName(), QString());
+    }
+
+    void theFocusIsSeenOnEverySurface_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QTest::newRow("light") << Palettes::light();
+        QTest::newRow("dark") << Palettes::dark();
+    }
+
+    void theFocusIsSeenOnEverySurface()
+    {
+        QFETCH(QPalette, palette);
+        const QColor ground = palette.color(QPalette::Window);
+        QVERIFY(contrast(Colours::focusRing(palette), ground) >= 3);
+
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(palette);
+        GameWindow window;
+        window.type(u"Ann"_s);
+        const auto look = [&](QWidget& top, int stops) {
+            for (int stop = 0; stop < stops; ++stop) {
+                QTest::qWait(20);
+                const QImage without = top.grab().toImage();
+                QTest::keyClick(top.windowHandle(), Qt::Key_Tab);
+                QWidget& control = *top.focusWidget();
+                QTest::qWait(20);
+                const QImage with = top.grab().toImage();
+                const QRect place(control.mapTo(&top, QPoint()), control.size());
+                const QRect around = place.adjusted(-2, -2, 2, 2);
+                int seen = 0;
+                for (int y = around.top(); y <= around.bottom(); ++y) {
+                    for (int x = around.left(); x <= around.right(); ++x) {
+                        const QColor now = with.pixelColor(x, y);
+                        if (contrast(now, ground) >= 3 &&
+                            contrast(now, without.pixelColor(x, y)) >= 3)
+                            ++seen;
+                    }
+                }
+                // A line all around, if not every pixel of a corner.
+                QVERIFY2(seen >= 2 * (place.width() + place.height()),
+                         qPrintable(control.objectName()));
+            }
+        };
+        look(window.window(), 5);
+        window.delegate.showPreferences();
+        QWidget& preferences = window.child<QWidget>(u"Preferences"_s);
+        QVERIFY(QTest::qWaitForWindowActive(&preferences));
+        look(preferences, 8);
+        QApplication::setPalette(before);
+    }
+};
+
+QTEST_MAIN(KeyboardTest)
+#include "keyboard_test.moc"

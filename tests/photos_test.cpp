@@ -1,0 +1,384 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "decks/photo_deck.h"
+#include "platform/localized_text.h"
+#include "settings/settings_keys.h"
+#include "support/game_window.h"
+#include "support/heif_writer.h"
+
+#include <QColorSpace>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int half = PhotoMessages::pictureEdge / 2;
+const std::array quarters{QColor(220, 40, 40), QColor(40, 180, 60), QColor(40, 60, 220),
+                          QColor(230, 220, 50)};
+
+QColor quarterOf(const QImage& image, int quarter)
+{
+    return image.pixelColor(half / 2 + quarter % 2 * half, half / 2 + quarter / 2 * half);
+}
+
+bool isLike(const QColor& left, const QColor& right)
+{
+    constexpr int tolerance = 24; // of lossy formats
+    return std::abs(left.red() - right.red()) < tolerance &&
+           std::abs(left.green() - right.green()) < tolerance &&
+           std::abs(left.blue() - right.blue()) < tolerance;
+}
+
+QString words(const PhotoAssets& assets)
+{
+    QStringList paths;
+    for (const PhotoAsset& asset : assets)
+        paths << QString::fromLatin1(asset);
+    return paths.join(u' ');
+}
+
+void writeFile(const QByteArray& path, const QByteArray& contents = {})
+{
+    std::filesystem::create_directories(std::filesystem::path(path.toStdString()).parent_path());
+    const int file = ::open(path.constData(), O_CREAT | O_WRONLY, 0600);
+    if (::write(file, contents.constData(), std::size_t(contents.size())) != contents.size())
+        qFatal("the test cannot write its file");
+    ::close(file);
+}
+
+/// A picture of one colour, which differs with `number`.
+void writePicture(const QString& path, int number)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    QImage picture(40, 30, QImage::Format_RGB32);
+    picture.fill(QColor::fromHsv(number * 11 % 360, 200, 200));
+    if (!picture.save(path))
+        qFatal("the test cannot write its picture");
+}
+
+bool hasLandlock()
+{
+    return ::syscall(444, nullptr, 0, 1) > 0;
+}
+
+} // namespace
+
+/// Reads real files with the real helper program; and, where it says so, with one
+/// whose decoders misbehave.
+class PhotosTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCOMPARE(QProcess::execute(QStringLiteral(PAIRCADE_PYTHON),
+                                   {QStringLiteral(PAIRCADE_MAKE_PHOTOS), m_made.path()}),
+                 0);
+        // The same colours to the eye, in other numbers.
+        QImage wide(m_made.filePath(u"good/plain.png"_s));
+        wide.setColorSpace(QColorSpace::SRgb);
+        wide.convertToColorSpace(QColorSpace::DisplayP3);
+        QVERIFY(wide.save(m_made.filePath(u"good/wide.jpg"_s), "JPG", 95));
+        QVERIFY(wide.save(m_made.filePath(u"good/wide.png"_s)));
+        writeHeif(m_made.filePath(u"good/wide.heic"_s), wide, 1, heif_compression_HEVC);
+        for (int turned = 1; turned <= 8; ++turned)
+            writeHeif(m_made.filePath(u"good/turned%1.heic"_s.arg(turned)),
+                      QImage(m_made.filePath(u"good/turned%1.png"_s.arg(turned))), turned,
+                      heif_compression_HEVC);
+        writeHeif(m_made.filePath(u"good/turned6.avif"_s),
+                  QImage(m_made.filePath(u"good/turned6.png"_s)), 6, heif_compression_AV1);
+    }
+
+    void cleanupTestCase() { std::filesystem::remove_all(m_made.path().toStdString()); }
+
+    /// No process stays behind.
+    void cleanup()
+    {
+        QCOMPARE(::waitpid(-1, nullptr, WNOHANG), -1);
+        QCOMPARE(errno, ECHILD);
+    }
+
+    void everyFormatComesUprightAndInItsColours_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const QString& file : QDir(m_made.filePath(u"good"_s)).entryList(QDir::Files))
+            QTest::newRow(qPrintable(file)) << file;
+    }
+
+    void everyFormatComesUprightAndInItsColours()
+    {
+        QFETCH(const QString, file);
+        const QImage image = fetch(m_made.filePath(u"good"_s)).image(QFile::encodeName(file));
+        QCOMPARE(image.size(), QSize(2 * half, 2 * half));
+        QVERIFY(!image.hasAlphaChannel());
+        for (std::size_t i = 0; i < quarters.size(); ++i)
+            QVERIFY2(isLike(quarterOf(image, int(i)), quarters.at(i)),
+                     qPrintable(quarterOf(image, int(i)).name()));
+    }
+
+    void transparencyIsKept()
+    {
+        QImage glass(20, 20, QImage::Format_ARGB32);
+        glass.fill(QColor(200, 100, 0, 128));
+        QVERIFY(glass.save(m_made.filePath(u"glass.png"_s)));
+        const QImage image = fetch(m_made.path()).image("glass.png");
+        QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied);
+        QCOMPARE(image.pixelColor(half, half).alpha(), 128);
+        QVERIFY(isLike(image.pixelColor(half, half), QColor(200, 100, 0)));
+    }
+
+    void badFilesYieldNoPictureAndNoHarm()
+    {
+        PhotoFetch fetch = this->fetch(m_made.path());
+        ::mkfifo(QFile::encodeName(m_made.filePath(u"bad/pipe.jpg"_s)).constData(), 0600);
+        QFile::link(u"/"_s, m_made.filePath(u"bad/became-a-link"_s));
+        QFile::link(u"../good/plain.jpg"_s, m_made.filePath(u"bad/link.jpg"_s));
+        PhotoAssets files{"good/../good/plain.jpg", "bad/vanished.jpg", "bad", "",
+                          "bad/became-a-link" + QFile::encodeName(m_made.path()) +
+                              "/good/plain.jpg"};
+        for (const QString& file :
+             QDir(m_made.filePath(u"bad"_s)).entryList(QDir::Files | QDir::System))
+            files.push_back("bad/" + QFile::encodeName(file));
+        QVERIFY(files.size() > 20);
+        for (const PhotoAsset& file : files)
+            QVERIFY2(fetch.image(file).isNull(), file.constData());
+        QVERIFY(!fetch.image("good/plain.jpg").isNull());
+    }
+
+    void whatIsListed()
+    {
+        const QString home = m_made.filePath(u"tree"_s); // its names are no longer text
+        const QByteArray root = QFile::encodeName(home) + "/Pictures/";
+        for (const char* const file :
+             {"b.jpg", "A.PNG", "film.mp4", "notes.txt", "jpg", ".hidden.jpg", "Trip/z.JPEG",
+              "Trip/y/deep.webp", "Trip/.git/x.jpg", "Trip/clip.webm", "trip/h.heic", "Films/v.mkv",
+              "No pictures/a.svg", " Blanks /s.gif", "\xff\xfe/\xfd.tif", "../out.jpg"})
+            writeFile(root + file);
+        ::mkfifo((root + "pipe.jpg").constData(), 0600);
+        const auto link = [&root](const char* to, const char* name) {
+            QCOMPARE(::symlink(to, (root + name).constData()), 0);
+        };
+        link("/", "Everything");
+        link("../out.jpg", "out.jpg");
+        link("../..", "Trip/circle");
+        link("..", "Trip/y/circle");
+        link("Trip/y", "Linked");
+        link("../b.jpg", "trip/b again.jpg");
+        link("../Trip/y", "trip/linked");
+        link("../Trip/y/deep.webp", "trip/deep.webp");
+        link("nowhere.jpg", "dangling.jpg");
+
+        const QString folder = home + u"/Pictures"_s;
+        QCOMPARE(words(fetch(folder).images()),
+                 u"A.PNG b.jpg  Blanks /s.gif Trip/z.JPEG Trip/y/deep.webp trip/h.heic ÿþ/ý.tif"_s);
+        PhotoFetch albums = fetch(folder);
+        QStringList found;
+        for (const PhotoAlbum& album : albums.albums(PhotoFetch::Counted::upToOne))
+            found << u"%1:%2:%3"_s.arg(*album.localizedTitle)
+                         .arg(album.assetCount)
+                         .arg(words(albums.assets(album)));
+        found.sort();
+        QCOMPARE(
+            found.join(u'|'),
+            u" Blanks :1: Blanks /s.gif|Films:1:Films/v.mkv|Linked:1:Trip/y/deep.webp|"
+            "No pictures:0:|Trip:1:Trip/clip.webm Trip/z.JPEG Trip/y/deep.webp|"
+            "trip:1:trip/h.heic b.jpg Trip/y/deep.webp Trip/clip.webm Trip/z.JPEG|\uFFFD\uFFFD:1:ÿþ/ý.tif"_s);
+        QVERIFY(albumTitled(albums.albums(), u"Blanks"_s));
+        QVERIFY(!albumTitled(albums.albums(), u"films"_s));
+    }
+
+    void aFaultyDecoderCostsOnePicture_data()
+    {
+        QTest::addColumn<QByteArray>("fault");
+        for (const char* const fault : {"crash", "spin", "hog"})
+            QTest::newRow(fault) << QByteArray(fault);
+    }
+
+    void aFaultyDecoderCostsOnePicture()
+    {
+        QFETCH(const QByteArray, fault);
+#ifdef __SANITIZE_ADDRESS__
+        if (fault == "hog")
+            QSKIP("sanitizers need more memory than the limit");
+#endif
+        PhotoFetch fetch = faulty(fault);
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(fetch.image("faulty.jpg").isNull());
+        if (time.elapsed() > 9000)
+            QSKIP("the machine is too busy to tell spinning from stalling");
+        QCOMPARE(quarterOf(fetch.image("fine.jpg"), 0), QColor(Qt::white));
+    }
+
+    void aStalledDecoderIsGivenUp()
+    {
+        PhotoFetch fetch = faulty("sleep");
+        QElapsedTimer time;
+        time.start();
+        QVERIFY(fetch.image("faulty.jpg").isNull());
+        QVERIFY(fetch.image("fine.jpg").isNull());
+        QVERIFY(time.elapsed() > 9000 && time.elapsed() < 15'000);
+    }
+
+    void decodersCannotBreakOut()
+    {
+        PhotoFetch fetch = faulty("break out");
+        const unsigned result = unsigned(quarterOf(fetch.image("faulty.jpg"), 0).red());
+        // Without Landlock they can read what the user can.
+        QCOMPARE(255 - (result | (hasLandlock() ? 0U : 1U)), 0U);
+    }
+
+    void aDeadMountIsGivenUpAndTheRestIsPlayed()
+    {
+        const QTemporaryDir home;
+        writePicture(home.filePath(u"a.png"_s), 1);
+        QDir(home.path()).mkdir(u"dead"_s);
+        const QByteArray mount = QFile::encodeName(home.filePath(u"dead"_s));
+        const int driver = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
+        const QByteArray options =
+            "fd=" + QByteArray::number(driver) + ",rootmode=40000,user_id=0,group_id=0";
+        if (driver < 0 || ::mount("dead", mount.constData(), "fuse", 0, options.constData()) != 0)
+            QSKIP("mounting takes an administrator");
+        PhotoFetch fetch = this->fetch(home.path());
+        const PhotoAssets assets = fetch.images();
+        const bool isRead = assets.size() == 1 && !fetch.image(assets.front()).isNull();
+        ::close(driver);
+        ::umount2(mount.constData(), MNT_DETACH);
+        QVERIFY(isRead);
+    }
+
+    void roundsFromPhotosAndTheirAlerts_data()
+    {
+        QTest::addColumn<QString>("deck");
+        QTest::addColumn<PhotoAccess>("answer");
+        QTest::addColumn<QString>("alert"); // none: pictures come
+        QTest::addColumn<int>("pictures");
+
+        const PhotoAccess all{PhotoAuthorization::authorized};
+        const auto part = [this](const QString& folder) {
+            return PhotoAccess{PhotoAuthorization::limited,
+                               QFile::encodeName(m_made.filePath(folder))};
+        };
+        QTest::newRow("no answer")
+            << u"iPhoto"_s << PhotoAccess{} << u"iphoto_access_denied"_s << 0;
+        QTest::newRow("refused") << u"iPhoto"_s << PhotoAccess{PhotoAuthorization::denied}
+                                 << u"iphoto_access_denied"_s << 0;
+        QTest::newRow("everything") << u"iPhoto"_s << all << QString() << 6;
+        QTest::newRow("an album, a film in it") << u"iPhoto: Rome "_s << all << QString() << 3;
+        QTest::newRow("case matters")
+            << u"iPhoto: rome"_s << all << u"iphoto_album_not_found"_s << 0;
+        QTest::newRow("an empty album")
+            << u"iPhoto: Empty"_s << all << u"iphoto_no_images_found"_s << 0;
+        QTest::newRow("a part") << u"iPhoto"_s << part(u"good"_s) << QString() << 6;
+        QTest::newRow("a part that is gone")
+            << u"iPhoto"_s << part(u"gone"_s) << u"iphoto_no_images_found"_s << 0;
+    }
+
+    void roundsFromPhotosAndTheirAlerts()
+    {
+        QFETCH(const QString, deck);
+        QFETCH(const PhotoAccess, answer);
+        QFETCH(const QString, alert);
+        QFETCH(const int, pictures);
+        TestPlatform services(nullptr, u"en"_s);
+        preparePhotos(services, 10);
+        if (answer.status != PhotoAuthorization::notDetermined)
+            services.prompt.answer = answer;
+        services.defaults->setString(SettingsKeys::CardDeck, deck);
+        MemoryGame game;
+        QCOMPARE(int(game.loadImagesFromPhotoLibrary().size()), pictures);
+        QCoreApplication::processEvents();
+        QCOMPARE(services.alertLog.shown.size(), alert.isEmpty() ? 0 : 1);
+        QVERIFY(alert.isEmpty() || services.alertLog.shown.front().startsWith(
+                                       localizedText(qPrintable(alert)) + u'|'));
+        // An answer is kept, none is asked for again.
+        QCOMPARE(int(game.loadImagesFromPhotoLibrary().size()), pictures);
+        QCOMPARE(services.prompt.asked, services.prompt.answer ? 1 : 2);
+    }
+
+    void withoutTheHelperPhotosAreRestricted()
+    {
+        const QTemporaryDir home;
+        PhotoAccessStore store(home.filePath(u"access"_s));
+        store.write({PhotoAuthorization::authorized});
+        const QString helper = PhotoLibrary::helperOfRunningProgram();
+        const auto status = [&](const QString& folder, const QString& program) {
+            return PhotoLibrary(store, nullptr, folder, program).authorizationStatus();
+        };
+        QCOMPARE(status(home.path(), helper), PhotoAuthorization::authorized);
+        QCOMPARE(status(home.path(), helper + u"x"_s), PhotoAuthorization::restricted);
+        QCOMPARE(status(QString(), helper), PhotoAuthorization::restricted);
+    }
+
+    void photosArePlayedInTheWindow_data()
+    {
+        QTest::addColumn<int>("layout");
+        QTest::addColumn<QString>("deck");
+        QTest::newRow("smallest, all photos") << 1 << u"iPhoto"_s;
+        QTest::newRow("largest, an album") << 6 << u"iPhoto: Many"_s;
+    }
+
+    void photosArePlayedInTheWindow()
+    {
+        QFETCH(const int, layout);
+        QFETCH(const QString, deck);
+        GameWindow window([&](TestPlatform& services) {
+            preparePhotos(services, 25);
+            services.prompt.answer = {PhotoAuthorization::authorized};
+            services.defaults->setInteger(SettingsKeys::AmountCards, layout);
+            services.defaults->setString(SettingsKeys::CardDeck, deck);
+        });
+        window.startGame();
+        QSet<QRgb> colours;
+        for (const MemoryCard& card : window.game().cards())
+            colours << card.image.image.pixel(half, half);
+        QCOMPARE(colours.size(), qsizetype(window.game().pairsPerRound()));
+        for (int i = 0; i < window.game().pairsPerRound(); ++i)
+            window.clickPair();
+        QVERIFY(window.game().gameCompleted());
+    }
+
+private:
+    [[nodiscard]] static PhotoFetch fetch(const QString& folder)
+    {
+        return PhotoFetch(PhotoLibrary::helperOfRunningProgram(), QFile::encodeName(folder));
+    }
+
+    /// A fetch by the helper with faulty decoders, from a folder with two files.
+    [[nodiscard]] PhotoFetch faulty(const QByteArray& fault)
+    {
+        const QByteArray folder = QFile::encodeName(m_made.filePath(u"faulty-"_s)) + fault.left(3);
+        writeFile(folder + "/faulty.jpg", fault);
+        writeFile(folder + "/fine.jpg", "fine");
+        return PhotoFetch(QStringLiteral(PAIRCADE_FAULTY_PHOTOS), folder);
+    }
+
+    /// Fills the pictures folder: `count` pictures in the album Many, two and a film
+    /// in Rome, none in Empty; access is asked for.
+    void preparePhotos(TestPlatform& services, int count) const
+    {
+        const QString folder = services.home.filePath(u"Pictures/"_s);
+        for (int i = 0; i < count; ++i)
+            writePicture(folder + u"Many/%1.png"_s.arg(i), i);
+        writePicture(folder + u"Rome/a.png"_s, count);
+        writePicture(folder + u"Rome/b.bmp"_s, count + 1);
+        QFile::copy(m_made.filePath(u"good/film.mp4"_s), folder + u"Rome/c.mp4"_s);
+        QDir(folder).mkdir(u"Empty"_s);
+        services.photos.status.reset();
+    }
+
+    QTemporaryDir m_made{};
+};
+
+QTEST_MAIN(PhotosTest)
+#include "photos_test.moc"

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/user_folders.h"
+#include "settings/preferences/preferences.h"
+#include "support/game_window.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QPointer>
+#include <QWheelEvent>
+
+inline void writeSettings(const QByteArray& lines)
+{
+    QFile file(settingsFile());
+    if (!file.open(QIODevice::WriteOnly) || file.write("[General]\n" + lines) < 0)
+        qFatal("the test cannot write the settings");
+}
+
+/// What stands under `key` in the file, as another program would find it.
+inline QByteArray stored(const QByteArray& key)
+{
+    QFile file(settingsFile());
+    if (!file.open(QIODevice::ReadOnly))
+        return "no file";
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        if (line.startsWith(key + '='))
+            return line.mid(key.size() + 1);
+    }
+    return "no key";
+}
+
+/// The preferences over the real game, opened from the main window by their shortcut.
+class PaneWindow : public GameWindow {
+public:
+    explicit PaneWindow(
+        const QByteArray& settings = {},
+        const std::function<void(TestPlatform&)>& prepare = [](TestPlatform&) {})
+        : GameWindow([&](TestPlatform& services) {
+            prepare(services);
+            if (settings.isEmpty())
+                return;
+            writeSettings(settings);
+            services.defaults->reread();
+        })
+    {
+        open();
+    }
+
+    void open()
+    {
+        press(Qt::Key_Comma, Qt::ControlModifier);
+        pane = window().findChild<Preferences*>();
+        if (pane == nullptr || !QTest::qWaitForWindowActive(pane))
+            qFatal("the preferences do not open");
+    }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(pane->windowHandle(), key, modifiers);
+    }
+    void close()
+    {
+        key(Qt::Key_Escape);
+        QTRY_VERIFY(pane.isNull());
+        window().activateWindow(); // which a window manager does
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+    }
+    /// Turns the wheel over the control.
+    void wheel(QWidget& control, int notches)
+    {
+        const QPointF place = control.rect().center();
+        QWheelEvent event(place, control.mapToGlobal(place), {}, {0, 120 * notches}, {}, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&control, &event);
+    }
+    QComboBox& decks() { return *pane->cardDeck_dropdown(); }
+
+    QPointer<Preferences> pane{};
+};
