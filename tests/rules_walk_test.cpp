@@ -146,6 +146,8 @@ private:
         }
         both(&MemoryGame::startNewGame, &ReferenceGame::startNewGame);
         ++happened[m_rules.isGameActive ? u"started"_s : u"not started"_s];
+        if (!m_rules.isGameActive && draw(3) == 0)
+            setDeck(u" Cyberpunk"_s);
     }
 
     /// The card to tap: mostly one that lies hidden, often the partner of the first.
@@ -177,7 +179,8 @@ private:
 
     void tap()
     {
-        const MemoryCard card = chosenCard();
+        MemoryCard card = chosenCard();
+        card.isFaceUp = draw(2) == 0; // a copy may be out of date
         const auto oldBoard = m_game->cards();
         const bool wasActive = m_rules.isGameActive;
         m_game->flipCard(card);
@@ -252,16 +255,19 @@ private:
         UserDefaults& defaults = *m_platform.defaults;
         const QLatin1String key =
             oneOf({SettingsKeys::AmountCards, SettingsKeys::AmountRounds, SettingsKeys::CardDeck});
-        if (key == SettingsKeys::CardDeck) {
-            m_rules.deckSetting = draw(3) > 0 ? u" Cyberpunk"_s
-                                              : oneOf({u"Kids\n"_s, u"None"_s, u" "_s, u"iPhoto"_s,
-                                                       u"iPhoto: Sea"_s, u"iPhoto: "_s});
-            return defaults.setString(key, m_rules.deckSetting);
-        }
+        if (key == SettingsKeys::CardDeck)
+            return setDeck(oneOf({u" Cyberpunk"_s, u"Kids\n"_s, u"None"_s, u" "_s, u"iPhoto"_s,
+                                  u"iPhoto: Sea"_s, u"iPhoto: "_s}));
         const std::int64_t value = someValue(key);
         counterpart(key) = value;
         defaults.setInteger(key, value);
         std::erase_if(m_elsewhere, [key](const auto& other) { return other.first == key; });
+    }
+
+    void setDeck(const QString& deck)
+    {
+        m_rules.deckSetting = deck;
+        m_platform.defaults->setString(SettingsKeys::CardDeck, deck);
     }
 
     /// Seen from the next start on that is not refused.
