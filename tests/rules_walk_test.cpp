@@ -96,12 +96,12 @@ private:
             apply(u"setting"_s, [this] { set(); });
         else if (falls(10))
             apply(u"setting by another program"_s, [this] { setElsewhere(); });
-        else if (falls(4))
+        else if (falls(6))
             apply(u"round"_s, [this] { dealOutOfTurn(); });
-        else if (falls(4))
+        else if (falls(15))
             apply(u"reset"_s,
                   [this] { both(&MemoryGame::resetHighscores, &ReferenceGame::resetHighscores); });
-        else if (falls(4))
+        else if (falls(15))
             apply(u"restore"_s, [this] {
                 both(&MemoryGame::restoreHighscores, &ReferenceGame::restoreHighscores);
             });
@@ -283,7 +283,7 @@ private:
     {
         if (m_rules.isCheckingPair)
             return;
-        const std::int64_t round = draw(4);
+        const std::int64_t round = draw(8); // beyond the last one too
         m_game->loadRound(round);
         m_rules.loadRound(round);
         takeOverBoard();
@@ -302,7 +302,8 @@ private:
             m_rules.cards.push_back({card.id, card.pairID, false, false});
             pairs[card.pairID] << card.image.name;
             pictures << card.image.name;
-            m_isDealtWell &= !m_knownIds.contains(card.id) && !m_knownIds.contains(card.pairID);
+            m_isDealtWell &= !card.image.image.isNull() && !m_knownIds.contains(card.id) &&
+                             !m_knownIds.contains(card.pairID);
             m_knownIds << card.id;
         }
         const auto count = std::size_t(std::exchange(m_rules.dealtPairs, 0));
@@ -388,6 +389,8 @@ private:
         same("alerts", m_platform.alertLog.shown, rules.alerts);
         same("GameIsActive", m_platform.defaults->integer(SettingsKeys::GameIsActive),
              std::int64_t(rules.gameIsActive));
+        same("canRestoreHighscores", game.canRestoreHighscores(), !rules.removed.empty());
+        same("the grid", game.cardColumns() * game.cardRows(), 2 * rules.pairsPerRound());
         same("posts", m_posts, rules.posts);
         same("dealt well", m_isDealtWell, true);
         same("cards", game.cards().size(), rules.cards.size());
@@ -450,7 +453,7 @@ private Q_SLOTS:
         constexpr int stepsOfAWalk = 5000;
         bool isSet = false;
         const int asked = qEnvironmentVariableIntValue("PAIRCADE_STEPS", &isSet);
-        const int walks = isSet ? (asked + stepsOfAWalk - 1) / stepsOfAWalk : 2;
+        const int walks = isSet ? (asked + stepsOfAWalk - 1) / stepsOfAWalk : 4;
         const QByteArray seedSet = qgetenv("PAIRCADE_SEED");
         quint32 seed = seedSet.isEmpty() ? 1 : seedSet.toUInt();
         std::map<QString, int> happened;
