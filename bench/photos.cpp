@@ -24,7 +24,7 @@ namespace {
 
 PhotoFetch fetchFrom(const QString& folder)
 {
-    return PhotoFetch(PhotoLibrary::helperOfRunningProgram(), QFile::encodeName(folder));
+    return {PhotoLibrary::helperOfRunningProgram(), QFile::encodeName(folder)};
 }
 
 void listing()
@@ -100,9 +100,9 @@ void decodeByCodec(const QString& path)
     info.scale_denom = 4;
     jpeg_start_decompress(&info);
     std::vector<JSAMPLE> row(std::size_t(info.output_width) * std::size_t(info.output_components));
-    JSAMPROW rows[] = {row.data()};
+    JSAMPROW start = row.data();
     while (info.output_scanline < info.output_height)
-        jpeg_read_scanlines(&info, rows, 1);
+        jpeg_read_scanlines(&info, &start, 1);
     jpeg_finish_decompress(&info);
     jpeg_destroy_decompress(&info);
     std::fclose(file);

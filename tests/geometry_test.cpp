@@ -72,7 +72,7 @@ constexpr std::array sidebar{
     Place{"bestVersus2", Mode::versus, 12, 400, true, 220, 0, 0},
     Place{"resetButton", Mode::both, 12, semibold, false, 0, 10, 0},
     Place{"reportButton", Mode::both, 12, semibold, false, 0, 6, 0},
-    Place{"versusCheckbox", Mode::both, 13, semibold, false, 220, 0, 8},
+    Place{"versusCheckbox", Mode::both, 13, semibold, false, 0, 0, 8},
     Place{"endButton", Mode::both, 12, semibold, false, 0, 6, 0},
 };
 

@@ -116,6 +116,9 @@ constexpr std::array allowed = {
 constexpr std::uint64_t writing =
     O_WRONLY | O_RDWR | O_CREAT | O_TRUNC | O_APPEND | (O_TMPFILE & ~O_DIRECTORY);
 
+// The arguments below that are compared whole have 32 bits.
+constexpr std::uint64_t whole = 0xffff'ffff;
+
 } // namespace
 
 bool confineSystemCalls()
@@ -124,20 +127,24 @@ bool confineSystemCalls()
         seccomp_init(SCMP_ACT_ERRNO(ENOSYS)), seccomp_release);
     if (!filter)
         return false;
-    const auto allow = [&filter](int call, auto... conditions) {
-        // A call that this architecture does not have needs no rule.
-        (void)seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, unsigned{sizeof...(conditions)},
-                               conditions...);
+    // A call that this architecture does not have needs no rule.
+    const auto allow = [&filter](int call) {
+        (void)seccomp_rule_add(filter.get(), SCMP_ACT_ALLOW, call, 0);
+    };
+    const auto allowIf = [&filter](int call, unsigned argument, std::uint64_t mask,
+                                   std::uint64_t value) {
+        const scmp_arg_cmp condition{argument, SCMP_CMP_MASKED_EQ, mask, value};
+        (void)seccomp_rule_add_array(filter.get(), SCMP_ACT_ALLOW, call, 1, &condition);
     };
     for (const int call : allowed)
         allow(call);
     // Opening for reading only, no new processes but threads, limits and signals of
     // this process only, names for threads.
-    allow(SCMP_SYS(open), SCMP_A1(SCMP_CMP_MASKED_EQ, writing, 0));
-    allow(SCMP_SYS(openat), SCMP_A2(SCMP_CMP_MASKED_EQ, writing, 0));
-    allow(SCMP_SYS(clone), SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD));
-    allow(SCMP_SYS(prlimit64), SCMP_A0(SCMP_CMP_EQ, 0));
-    allow(SCMP_SYS(tgkill), SCMP_A0(SCMP_CMP_EQ, std::uint64_t(::getpid())));
-    allow(SCMP_SYS(prctl), SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME));
+    allowIf(SCMP_SYS(open), 1, writing, 0);
+    allowIf(SCMP_SYS(openat), 2, writing, 0);
+    allowIf(SCMP_SYS(clone), 0, CLONE_THREAD, CLONE_THREAD);
+    allowIf(SCMP_SYS(prlimit64), 0, whole, 0);
+    allowIf(SCMP_SYS(tgkill), 0, whole, std::uint64_t(::getpid()));
+    allowIf(SCMP_SYS(prctl), 0, whole, PR_SET_NAME);
     return seccomp_load(filter.get()) == 0;
 }

@@ -50,7 +50,7 @@ QImage videoStill(int file)
         if (pixels <= 0 || pixels > mostPixels || still.pixels.size() < 3 * pixels)
             continue;
         image = QImage(reinterpret_cast<const uchar*>(still.pixels.constData()), still.width,
-                       still.height, 3 * still.width, QImage::Format_RGB888)
+                       still.height, qsizetype{3} * still.width, QImage::Format_RGB888)
                     .copy();
         if (!isBlack(image))
             break;

@@ -20,4 +20,4 @@ struct FilmStill {
     QByteArray pixels{}; ///< Red, green, blue; rows without gaps. Empty if there is none.
 };
 using StillFunction = void (*)(const char* path, int percent, FilmStill& still);
-inline constexpr char stillFunctionName[] = "paircadeFilmStill";
+inline constexpr const char* stillFunctionName = "paircadeFilmStill";

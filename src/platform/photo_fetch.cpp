@@ -41,9 +41,11 @@ private:
     bool m_isShown = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
 };
 
-PhotoFetch::PhotoFetch(QString helper, QByteArray library)
+PhotoFetch::PhotoFetch(QString helper, QByteArray library, PhotoPatience patience)
     : m_program(std::move(helper))
     , m_library(std::move(library))
+    , m_patience(patience)
+    , m_deadline(patience.round)
     , m_pointer(std::make_unique<BusyPointer>())
 {
 }
@@ -54,7 +56,7 @@ void PhotoFetch::ask(Kind request, QByteArrayView content)
 {
     const bool mayStart = !m_library.isEmpty() && !m_isGivenUp && !m_deadline.hasExpired();
     if (mayStart && (!m_helper || m_helper->state() != PhotoHelper::State::running))
-        m_helper = std::make_unique<PhotoHelper>(m_program, m_library);
+        m_helper = std::make_unique<PhotoHelper>(m_program, m_library, m_patience.silence);
     if (m_helper)
         m_helper->send(request, content);
 }
@@ -93,6 +95,7 @@ std::vector<PhotoAlbum> PhotoFetch::albums(Counted counted)
     });
     std::ranges::stable_sort(listed, sortsBefore, &Listed::title);
     std::vector<PhotoAlbum> albums;
+    albums.reserve(listed.size());
     for (const Listed& album : listed)
         albums.push_back({album.title, album.count, album.folder});
     return albums;

@@ -31,12 +31,9 @@ using PhotoAssets = std::vector<PhotoAsset>;
 /// was in a list, what it had told counts, and another reads the pictures.
 class PhotoFetch {
 public:
-    /// How long all of it may take.
-    static constexpr std::chrono::seconds longestRound{30};
-
     /// For the library in the folder `library`, read by the program `helper`. An
     /// empty folder is an empty library.
-    PhotoFetch(QString helper, QByteArray library);
+    PhotoFetch(QString helper, QByteArray library, PhotoPatience patience = {});
     ~PhotoFetch();
     PhotoFetch(const PhotoFetch&) = delete;
     PhotoFetch& operator=(const PhotoFetch&) = delete;
@@ -67,7 +64,8 @@ private:
 
     QString m_program;
     QByteArray m_library;
-    QDeadlineTimer m_deadline{longestRound};
+    PhotoPatience m_patience;
+    QDeadlineTimer m_deadline;
     std::unique_ptr<PhotoHelper> m_helper{};
     std::unique_ptr<BusyPointer> m_pointer;
     bool m_isGivenUp = false; ///< It stalled over a picture.

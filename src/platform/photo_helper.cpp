@@ -70,7 +70,9 @@ pid_t spawned(const QString& program, const QByteArray& library, int requests, i
 
 } // namespace
 
-PhotoHelper::PhotoHelper(const QString& program, const QByteArray& library)
+PhotoHelper::PhotoHelper(const QString& program, const QByteArray& library,
+                         std::chrono::seconds silence)
+    : m_silence(silence)
 {
     std::array<int, 2> requests{-1, -1};
     std::array<int, 2> replies{-1, -1};
@@ -136,7 +138,7 @@ std::optional<PhotoMessages::Frame> PhotoHelper::receive(QDeadlineTimer deadline
             end(m_reader.isBroken() ? State::ended : State::stalled);
             break;
         }
-        const QDeadlineTimer silence(longestSilence);
+        const QDeadlineTimer silence(m_silence);
         pollfd replies{m_replies.get(), POLLIN, 0};
         int ready = 0;
         do

@@ -10,21 +10,25 @@
 #include <chrono>
 #include <sys/types.h>
 
+/// How long the game waits for photos before it gives up.
+struct PhotoPatience {
+    std::chrono::seconds silence{10}; ///< Without a sign of progress.
+    std::chrono::seconds round{30};   ///< For all that one round asks.
+};
+
 /// The process of paircade-photos, which reads files that nobody vouches for. Every
 /// call returns in bounded time, whatever becomes of the process.
 class PhotoHelper {
 public:
-    /// How long the helper may show no progress.
-    static constexpr std::chrono::seconds longestSilence{10};
-
     enum class State {
         running,
         ended,   ///< It crashed, was ended, or talks nonsense.
         stalled, ///< It gave no sign for too long, and was ended.
     };
 
-    /// Starts `program` for the library in the folder `library`.
-    PhotoHelper(const QString& program, const QByteArray& library);
+    /// Starts `program` for the library in the folder `library`. It may show no
+    /// progress for `silence`.
+    PhotoHelper(const QString& program, const QByteArray& library, std::chrono::seconds silence);
     ~PhotoHelper();
     PhotoHelper(const PhotoHelper&) = delete;
     PhotoHelper& operator=(const PhotoHelper&) = delete;
@@ -42,6 +46,7 @@ private:
     /// Takes in what has arrived; false at the end of it.
     bool takeBytes();
 
+    std::chrono::seconds m_silence;
     State m_state = State::ended;
     pid_t m_process = -1;
     Descriptor m_requests{};

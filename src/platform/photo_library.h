@@ -35,7 +35,7 @@ public:
     virtual PhotoAuthorization requestAuthorization();
 
     /// The user's albums, in the library's order, counted. Titles may be equal.
-    /// Empty where reading is not allowed. Blocks up to PhotoFetch::longestRound.
+    /// Empty where reading is not allowed. Blocks up to PhotoPatience::round.
     [[nodiscard]] virtual std::vector<PhotoAlbum> albums() const;
 
     /// The folder that may be read, in the system's bytes; empty if none.

@@ -31,10 +31,11 @@ void paintShadow(QPainter& painter, const QRectF& card)
 {
     constexpr qreal opacity = 0.33;
     constexpr qreal deviation = 1.5; // a Gaussian of half the blur radius
-    constexpr qreal reach = 4;
+    constexpr int rings = 8;
     constexpr qreal step = 0.5;
     painter.setBrush(Qt::NoBrush);
-    for (qreal distance = step / 2; distance < reach; distance += step) {
+    for (int ring = 0; ring < rings; ++ring) {
+        const qreal distance = (ring + 0.5) * step;
         const qreal share = 0.5 * std::erfc(distance / (deviation * std::sqrt(2.0)));
         painter.setPen(QPen(Colours::withOpacity(Qt::black, opacity * share), step));
         painter.drawRoundedRect(card.adjusted(-distance, -distance, distance, distance),

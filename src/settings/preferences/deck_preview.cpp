@@ -94,7 +94,7 @@ DeckPreview::DeckPreview(QWidget* parent)
     : QWidget(parent)
 {
     QAccessible::installFactory(makeAccessible);
-    setFixedSize(sizeHint());
+    setFixedSize(DeckPreview::sizeHint());
 }
 
 QSize DeckPreview::sizeHint() const

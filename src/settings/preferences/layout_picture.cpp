@@ -28,7 +28,7 @@ constexpr int length(int places)
 LayoutPicture::LayoutPicture(QWidget* parent)
     : QWidget(parent)
 {
-    setFixedSize(sizeHint());
+    setFixedSize(LayoutPicture::sizeHint());
 }
 
 QSize LayoutPicture::sizeHint() const
