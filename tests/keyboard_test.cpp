@@ -3,6 +3,7 @@
 // The ways of the keyboard through every screen, and what can be seen of them.
 #include "platform/widgets/access_question.h"
 #include "platform/widgets/palettes.h"
+#include "settings/settings_keys.h"
 #include "support/game_window.h"
 #include "ui/colours.h"
 
@@ -183,6 +184,38 @@ private Q_SLOTS:
         }
         QVERIFY(window.game().isVersusMode());
         QCOMPARE(window.game().playerOneName(), QString());
+    }
+
+    void aKeyHeldOnAnAlertActsOnNothing()
+    {
+        GameWindow window;
+        window.type(u"Ann"_s);
+        window.game().showLocalizedAlert("enter_name");
+        bool isAlerted = false;
+        QTimer::singleShot(200, &window.window(), [&] {
+            QWidget* const alert = QApplication::activeModalWidget();
+            QVERIFY(alert != nullptr);
+            isAlerted = true;
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+            QCoreApplication::sendEvent(alert->windowHandle(), &held);
+            QVERIFY(alert->isVisible());
+            QTest::keyClick(alert->windowHandle(), Qt::Key_Return);
+        });
+        QTRY_VERIFY(isAlerted && QApplication::activeModalWidget() == nullptr);
+        window.repeat(Qt::Key_Return, u"\r"_s);
+        QVERIFY(!window.game().isGameActive());
+        window.press(Qt::Key_Return);
+        QVERIFY(window.game().isGameActive());
+    }
+
+    void cardsAreNamedByTheirOwnBoard()
+    {
+        GameWindow window;
+        window.platform.defaults->setInteger(SettingsKeys::AmountCards,
+                                            6); // 8 x 5 from the next game
+        window.startGame();
+        QVERIFY2(window.card(39).accessibleName().startsWith(u"Row 5, column 8"_s),
+                 qPrintable(window.card(39).accessibleName()));
     }
 
     void theFocusIsSeenOnEverySurface_data()

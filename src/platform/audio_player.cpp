@@ -11,6 +11,7 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -49,8 +50,15 @@ public:
     {
         const std::scoped_lock lock(performer->m_mutex);
         performer->m_requests.push_back(std::move(sound));
-        if (!performer->m_thread.joinable())
-            performer->m_thread = std::thread([performer] { performer->run(); });
+        try {
+            if (!performer->m_thread.joinable())
+                performer->m_thread = std::thread([performer] { performer->run(); });
+        } catch (const std::system_error& error) { // a system full of threads stays silent
+            const Sound lost = std::move(performer->m_requests.back());
+            performer->m_requests.clear();
+            if (lost.failure)
+                lost.failure(QString::fromLocal8Bit(error.what()));
+        }
         performer->m_changed.notify_all();
     }
 

@@ -50,6 +50,13 @@ protected:
     }
 };
 
+bool isDialogOrMenu(const QObject& object)
+{
+    const auto* const widget = qobject_cast<const QWidget*>(&object);
+    return widget != nullptr &&
+           (widget->windowType() == Qt::Dialog || widget->windowType() == Qt::Popup);
+}
+
 } // namespace
 
 ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
@@ -117,7 +124,7 @@ void ContentView::layOut()
                                                   ? m_versusStartView->controlsTop()
                                                   : m_singlePlayerStartView->controlsTop()));
     m_divider->setGeometry(dividerX, 0, 1, height());
-    m_logo->setGeometry(leadingPadding, logoTop, 180, 180);
+    m_logo->setGeometry(leadingPadding, logoTop - m_leftSidebar->scrolledBy(), 180, 180);
 }
 
 void ContentView::arrangeBoard()
@@ -283,6 +290,8 @@ void ContentView::giveFocus()
 
 bool ContentView::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Hide && isDialogOrMenu(*watched))
+        m_ignoresRepeats = true;
     const bool isKey = isKeyPress(*event);
     if (!isKey && !isMousePress(*event))
         return QWidget::eventFilter(watched, event);
@@ -291,7 +300,7 @@ bool ContentView::eventFilter(QObject* watched, QEvent* event)
     if (watched->isWindowType())
         refreshIfScheduled();
     m_gameBoard->setFocusRingShown(isKey);
-    // A key still held when its view went, or the second half of a double click,
+    // A key still held when its view or a dialog went, or the second half of a double click,
     // must not act on the next view.
     if (!isRepeat(*event))
         m_ignoresRepeats = m_ignoresKeyRepeats = false;

@@ -55,7 +55,7 @@ void GameBoard::refresh()
     for (std::size_t i = 0; i < cards.size(); ++i) {
         const bool canBeTurned = awaitsTap && !cards[i].isFaceUp && !cards[i].isMatched;
         m_tiles[i]->show(cards[i], removeMatch, canBeTurned,
-                         cardText(cards, i, m_columns, removeMatch));
+                         cardText(cards, i, m_game.cardColumns(), removeMatch));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "ui/leaving_board.h"
 
 #include "platform/widgets/appearance.h"
+#include "platform/widgets/held_input.h"
 #include "ui/device_pixels.h"
 
 #include <QCoreApplication>
@@ -57,7 +58,7 @@ void LeavingBoard::end()
 
 bool LeavingBoard::eventFilter(QObject*, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress)
+    if (isMousePress(*event) || isKeyPress(*event))
         end();
     return false;
 }

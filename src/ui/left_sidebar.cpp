@@ -104,6 +104,10 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
             m_game.endGame();
     });
 
+    // A screen reader reads in this order.
+    for (const Row& row : m_rows)
+        (row.isHighscore ? m_highscoreArea : row.widget)->raise();
+
     // One clean column, as wide as its widest text.
     int widest = buttonWidth;
     for (const Row& row : m_rows) {
@@ -134,6 +138,11 @@ QPushButton* LeftSidebar::addButton(const char* key, const char* name, int above
     button->setFont(systemFont(12, QFont::DemiBold));
     m_rows.push_back({.widget = button, .width = buttonWidth, .above = above});
     return button;
+}
+
+int LeftSidebar::scrolledBy() const
+{
+    return verticalScrollBar()->value();
 }
 
 void LeftSidebar::refresh()

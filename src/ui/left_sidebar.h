@@ -25,6 +25,8 @@ public:
     void refresh();
     /// Takes over the colours that the desktop asks for.
     void followAppearance();
+    /// Points that the whole column is scrolled by.
+    [[nodiscard]] int scrolledBy() const;
 
 Q_SIGNALS:
     /// The whole column was scrolled by `points` in all.

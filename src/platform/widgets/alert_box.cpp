@@ -3,6 +3,7 @@
 #include "platform/widgets/alert_box.h"
 
 #include "platform/localized_text.h"
+#include "platform/widgets/held_input.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -29,6 +30,7 @@ void showBox(QMessageBox& box, const QString& informativeText, const QString& bu
     if (auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
         text->setMinimumWidth(informativeWidth);
     box.addButton(buttonTitle, QMessageBox::AcceptRole);
+    const HeldInput held; // else the key that led here would close it again
     box.exec();
 }
 
