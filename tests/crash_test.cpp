@@ -175,7 +175,9 @@ private Q_SLOTS:
             QVERIFY2(isWhole(game, stored), qPrintable(QString::number(step)));
         }
         QVERIFY2(step > 50 && stored > 1 && stored < step, "the steps were not taken one by one");
-        qInfo("%d steps, %d of them after the result was stored", step, stored);
+        const auto left = QFileInfo(game.platform.highscoreFile()).dir().entryList(QDir::Files);
+        qInfo("%d steps, %d of them after the result was stored; files left over: %d", step, stored,
+              int(left.size()) - 1);
     }
 
     void killedAtAnyMomentNothingIsLost()

@@ -5,7 +5,7 @@
 // PAIRCADE_SECONDS sets how long, PAIRCADE_SEED where to begin. A seed does not repeat a
 // run, which depends on time; the last actions before a failure are told instead.
 #include "app/termination.h"
-#include "highscores/highscore_file.h"
+#include "platform/widgets/access_question.h"
 #include "settings/settings_keys.h"
 #include "support/game_window.h"
 #include "support/output_of.h"
@@ -55,6 +55,7 @@ public:
         , m_seen(seen)
         , m_window([this](TestPlatform& platform) { prepare(platform); })
     {
+        usePlatform(&m_services);
         connect(&m_window.game(), &MemoryGame::changed, this, [this](MemoryGame::Member member) {
             if (member == MemoryGame::Member::isGameActive && m_window.game().isGameActive())
                 ++m_seen[u"games of %1 pairs"_s.arg(m_window.game().pairsPerRound())];
@@ -82,6 +83,8 @@ private:
         platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, draw(2));
         platform.defaults->setInteger(SettingsKeys::RemoveMatch, draw(2));
         makeDeck(platform.home.path(), u"Kids"_s, 9);
+        if (draw(4) == 0)
+            platform.defaults->setString(SettingsKeys::CardDeck, u"iPhoto"_s);
     }
 
     void next()
@@ -249,7 +252,7 @@ private:
             return platform.defaults->setString(
                 SettingsKeys::CardDeck,
                 oneOf(std::array{u"Cyberpunk"_s, u"Cyberpunk"_s, u"Kids"_s, u"None"_s, u""_s,
-                                 u"iPhoto"_s, u"iPhoto: Sea"_s}));
+                                 u"iPhoto"_s, u"iPhoto: Kids"_s, u"iPhoto: Sea"_s}));
         case 4:
             note(u"second start"_s);
             return m_window.delegate.activate();
@@ -285,6 +288,19 @@ private:
     QRandomGenerator& m_random;
     std::map<QString, int>& m_seen;
     GameWindow m_window;
+    // Real photos, the decks being albums, and the real question about them.
+    AccessQuestion m_question{m_window.resources() + u"/Cards"_s};
+    PhotoLibrary m_photos{m_window.platform.photoAccess, &m_question,
+                          m_window.resources() + u"/Cards"_s,
+                          PhotoLibrary::helperOfRunningProgram()};
+    Platform m_services{*m_window.platform.defaults,
+                        platform().bundle,
+                        m_window.platform.mainQueue,
+                        m_window.platform.notifications,
+                        m_window.platform.audio,
+                        m_photos,
+                        m_window.alerts,
+                        m_window.platform.openedFiles};
     int m_depth = 0;
 };
 
