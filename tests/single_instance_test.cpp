@@ -4,6 +4,7 @@
 #include "app/single_instance.h"
 #include "support/broken_world.h"
 #include "support/files.h"
+#include "support/program.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,7 +14,23 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
+#include <cerrno>
 #include <cstdio>
+#include <list>
+#include <sys/syscall.h>
+
+namespace {
+bool isFlockKnown = true;
+}
+
+/// The system's own, but for a folder of the network that knows no such locks.
+extern "C" int flock(int file, int operation) noexcept
+{
+    if (isFlockKnown)
+        return int(::syscall(SYS_flock, file, operation));
+    errno = ENOLCK;
+    return -1;
+}
 
 class SingleInstanceTest : public QObject {
     Q_OBJECT
@@ -120,6 +137,87 @@ private Q_SLOTS:
         QVERIFY(contentsOf(data + QStringLiteral("/lock")).startsWith("4194303"));
     }
 
+    void whereLocksAreUnknownALivingGameIsStillFound_data()
+    {
+        QTest::addColumn<QByteArray>("lock"); // as a crash left it
+        QTest::addColumn<int>("claim");
+        const QByteArray host = '\n' + QSysInfo::machineHostName().toUtf8() + '\n';
+        using Claim = SingleInstance::Claim;
+        QTest::newRow("nobody was there") << QByteArray() << int(Claim::isOurs);
+        QTest::newRow("of a game that is gone") << "4194303\npaircade" + host << int(Claim::isOurs);
+        QTest::newRow("cut short") << QByteArray("1") << int(Claim::isOurs);
+        QTest::newRow("of a game that hangs")
+            << QByteArray::number(::getpid()) + "\nsingle_instance_test" + host
+            << int(Claim::noAnswer);
+    }
+
+    void whereLocksAreUnknownALivingGameIsStillFound()
+    {
+        QFETCH(QByteArray, lock);
+        QFETCH(int, claim);
+        if (!lock.isEmpty())
+            writeFile(m_home->filePath(QStringLiteral("data/lock")), lock);
+        isFlockKnown = false;
+        const auto made = SingleInstance().claim(m_home->filePath(QStringLiteral("data")), {});
+        isFlockKnown = true;
+        QCOMPARE(int(made), claim);
+    }
+
+    void ofManyStartsAtOnceOneStays_data()
+    {
+        QTest::addColumn<int>("round");
+        bool isSet = false;
+        const int asked = qEnvironmentVariableIntValue("PAIRCADE_STARTS", &isSet);
+        for (int round = 1; round <= (isSet ? asked : 1); ++round)
+            QTest::addRow("round %d", round) << round;
+    }
+
+    void ofManyStartsAtOnceOneStays()
+    {
+        std::list<Program> programs;
+        for (int i = 0; i < 4; ++i)
+            programs.emplace_back(runtimeHome());
+        // The others have handed over, or say that they could not: the first was slow.
+        const auto running = [&] {
+            return std::ranges::count_if(
+                programs, [](Program& program) { return program.isRunning() && !says(program); });
+        };
+        QVERIFY(QTest::qWaitFor([&] { return running() == 1; }, 20'000));
+        for (Program& program : programs) {
+            if (!says(program))
+                QVERIFY(program.isRunning() ? program.comesUp() : program.endsWell());
+        }
+        QCOMPARE(running(), 1);
+    }
+
+    void aGameThatHangsIsNamed()
+    {
+        Program first(runtimeHome());
+        QVERIFY(first.comesUp());
+        first.signal(SIGSTOP);
+        {
+            Program second(runtimeHome());
+            QVERIFY(QTest::qWaitFor([&] { return says(second) || !second.isRunning(); }, 20'000));
+            QVERIFY(second.isRunning()); // until its box is answered
+        }
+        first.signal(SIGCONT);
+        QVERIFY(Program(runtimeHome()).endsWell());
+        first.signal(SIGTERM);
+        QVERIFY(first.endsWell());
+    }
+
+    void aKilledGameLeavesTheFolderFree()
+    {
+        {
+            Program killed(runtimeHome()); // and with it its lock and its socket
+            QVERIFY(killed.comesUp());
+        }
+        Program next(runtimeHome());
+        QVERIFY(next.comesUp());
+        QVERIFY(Program(runtimeHome()).endsWell());
+        QVERIFY(next.isRunning());
+    }
+
     void withoutAUsableFolderTheGameRunsUnguarded()
     {
         SingleInstance instance;
@@ -129,6 +227,23 @@ private Q_SLOTS:
     }
 
 private:
+    /// The home, with a runtime folder that only its owner enters.
+    [[nodiscard]] QString runtimeHome() const
+    {
+        const QString runtime = m_home->filePath(QStringLiteral("runtime"));
+        QDir().mkpath(runtime);
+        QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return m_home->path();
+    }
+
+    /// Whether `program` says that another game does not answer.
+    static bool says(Program& program)
+    {
+        program.process.setReadChannel(QProcess::StandardError);
+        return program.process.bytesAvailable() > 0 &&
+               program.process.peek(4096).contains("already running");
+    }
+
     /// Claims the folder `path` of the home in another process.
     int claimElsewhere(const QString& path, const QByteArray& token)
     {

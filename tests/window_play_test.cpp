@@ -100,6 +100,39 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(faceUpCards(m_window->game()), 0, 2000);
     }
 
+    void aMissTurnsBackUnderOrAfterAnAlert_data()
+    {
+        QTest::addColumn<bool>("isReport");
+        QTest::addColumn<std::ptrdiff_t>("openMeanwhile");
+        QTest::newRow("of the report, shown at once") << true << std::ptrdiff_t{0};
+        QTest::newRow("queued, holding back what falls due") << false << std::ptrdiff_t{2};
+    }
+
+    void aMissTurnsBackUnderOrAfterAnAlert()
+    {
+        QFETCH(bool, isReport);
+        m_window->startGame();
+        m_window->clickCard(0);
+        m_window->clickCard(otherCard(m_window->game(), 0, false));
+        std::ptrdiff_t open = -1;
+        QTimer::singleShot(1500, qApp, [&] {
+            open = faceUpCards(m_window->game());
+            whenAlerted([](QMessageBox&) {});
+        });
+        if (isReport) { // a folder in its place
+            QVERIFY(QDir().mkpath(m_window->platform.highscoreFile().replace(
+                QStringLiteral(".json"), QStringLiteral(".html/x"))));
+            m_window->game().openHighscoresHTML();
+        } else {
+            m_window->game().showLocalizedAlert("ok");
+        }
+        QTRY_VERIFY(open >= 0 && QApplication::activeModalWidget() == nullptr);
+        QTEST(open, "openMeanwhile");
+        QTRY_COMPARE(faceUpCards(m_window->game()), std::ptrdiff_t{0});
+        m_window->clickPair();
+        QCOMPARE(faceUpCards(m_window->game()), std::ptrdiff_t{2});
+    }
+
     void aVersusGameByMouse()
     {
         auto& checkbox = m_window->child<QCheckBox>(QStringLiteral("versusCheckbox"));

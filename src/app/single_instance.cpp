@@ -7,10 +7,12 @@
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QThread>
 #include <QTimer>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -45,15 +47,34 @@ bool handOver(const QString& socketPath, const QByteArray& token, const QDeadlin
     return socket.waitForReadyRead(left());
 }
 
-/// Whether a process that lives holds the lock: it keeps the file locked, too.
-bool isHeld(const QString& lockPath)
+/// Whether the process lives that `lock` names; one on another machine is taken to.
+bool isOwnerAlive(const QLockFile& lock)
 {
-    const int file = ::open(QFile::encodeName(lockPath).constData(), O_RDONLY | O_CLOEXEC);
+    qint64 process = 0;
+    QString machine;
+    QString program;
+    if (!lock.getLockInfo(&process, &machine, &program))
+        return false; // cut short by a crash
+    if (machine != QSysInfo::machineHostName())
+        return true;
+    // Its number may have passed to another program; its file may have been updated.
+    const QString running = QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(process));
+    const bool isThere = ::kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM;
+    return isThere && (running.isEmpty() || QFileInfo(running).fileName().startsWith(program));
+}
+
+/// Whether a process that lives holds the lock: it keeps the file locked, too. On a
+/// network folder that knows no such locks, what the file says has to do.
+bool isHeld(const QLockFile& lock)
+{
+    const QByteArray path = QFile::encodeName(lock.fileName());
+    const int file = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
     if (file < 0)
         return errno == EACCES; // somebody else's, of whom nothing is known
     const bool isFree = ::flock(file, LOCK_SH | LOCK_NB) == 0;
+    const bool isKnown = isFree || errno == EWOULDBLOCK;
     ::close(file);
-    return !isFree;
+    return isKnown ? !isFree : isOwnerAlive(lock);
 }
 
 } // namespace
@@ -93,12 +114,13 @@ SingleInstance::Claim SingleInstance::claim(const QString& folder,
     } while (!deadline.hasExpired());
     // A lock that nobody holds: left by a crash and cut short, or by this machine under
     // another name. It cannot be removed while its owner lives.
-    if (m_lock->removeStaleLockFile() && m_lock->tryLock(0)) {
+    const bool isRemoved = m_lock->removeStaleLockFile();
+    if ((isRemoved || (!isHeld(*m_lock) && QFile::remove(lockPath))) && m_lock->tryLock(0)) {
         listen(socketPath);
         return Claim::isOurs;
     }
     // One that is left but cannot be removed keeps nobody from playing.
-    return isHeld(lockPath) ? Claim::noAnswer : Claim::isOurs;
+    return isHeld(*m_lock) ? Claim::noAnswer : Claim::isOurs;
 }
 
 void SingleInstance::listen(const QString& socketPath)

@@ -112,7 +112,11 @@ bool UserDefaults::canBeLocked() const
 {
     constexpr int patience = 200; // ms
     QLockFile probe(m_store.fileName() + QStringLiteral(".lock"));
-    return probe.tryLock(patience) || probe.error() != QLockFile::LockFailedError;
+    if (probe.tryLock(patience) || probe.error() != QLockFile::LockFailedError)
+        return true;
+    // Left empty by a crash right after it was made, it would be in the way for half a
+    // minute. Of a process that lives it cannot be removed.
+    return probe.removeStaleLockFile() && probe.tryLock(0);
 }
 
 /// Whether the disk can take the file anew. QSettings does not notice that a write

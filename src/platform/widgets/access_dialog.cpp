@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QUrl>
 #include <utility>
@@ -134,13 +135,17 @@ void AccessDialog::giveAnswer(const PhotoAccess& answer)
 
 void AccessDialog::chooseFolder()
 {
-    QFileDialog dialog(this, localizedText("photo_question_choose"), m_picturesFolder);
-    dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
+    const QPointer<QFileDialog> dialog =
+        new QFileDialog(this, localizedText("photo_question_choose"), m_picturesFolder);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
     const HeldInput heldInput;
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedUrls().isEmpty())
-        return;
-    const QByteArray folder = folderAt(dialog.selectedUrls().constFirst());
+    const bool isChosen = dialog->exec() == QDialog::Accepted;
+    if (!dialog)
+        return; // and so is this, on which it lay
+    const QList<QUrl> urls = isChosen ? dialog->selectedUrls() : QList<QUrl>();
+    delete dialog;
+    const QByteArray folder = urls.isEmpty() ? QByteArray() : folderAt(urls.constFirst());
     if (!folder.isEmpty())
         giveAnswer({PhotoAuthorization::limited, folder});
 }

@@ -61,8 +61,11 @@ std::optional<PhotoAccess> AccessQuestion::askForPhotoAccess()
     const MainQueue::Hold hold(platform().mainQueue);
     QWidget* const parent = QApplication::activeWindow();
     const DisabledWindows disabledWindows;
-    AccessDialog dialog(m_picturesFolder, parent);
+    // Not on the stack: the dialog goes with its parent, whenever that goes.
+    const QPointer<AccessDialog> dialog = new AccessDialog(m_picturesFolder, parent);
     const HeldInput heldInput;
-    dialog.exec();
-    return dialog.answer();
+    dialog->exec();
+    const std::optional<PhotoAccess> answer = dialog ? dialog->answer() : std::nullopt;
+    delete dialog;
+    return answer;
 }

@@ -9,6 +9,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 
 namespace {
 
@@ -39,15 +40,19 @@ void showBox(QMessageBox& box, const QString& informativeText, const QString& bu
 void AlertBox::warn(const QString& messageText, const QString& informativeText,
                     const QString& buttonTitle)
 {
-    QMessageBox box(QMessageBox::Warning, QString(), messageText, QMessageBox::NoButton,
-                    QApplication::activeWindow());
-    showBox(box, informativeText, buttonTitle);
+    // Not on the stack: the box goes with its parent, whenever that goes.
+    const QPointer<QMessageBox> box =
+        new QMessageBox(QMessageBox::Warning, QString(), messageText, QMessageBox::NoButton,
+                        QApplication::activeWindow());
+    showBox(*box, informativeText, buttonTitle);
+    delete box;
 }
 
 void showInformation(const QString& title, const QString& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, QString(), title, QMessageBox::NoButton,
-                    QApplication::activeWindow());
-    box.setIconPixmap(QApplication::windowIcon().pixmap(iconSize));
-    showBox(box, text, localizedText("ok"));
+    const QPointer<QMessageBox> box = new QMessageBox(
+        QMessageBox::NoIcon, QString(), title, QMessageBox::NoButton, QApplication::activeWindow());
+    box->setIconPixmap(QApplication::windowIcon().pixmap(iconSize));
+    showBox(*box, text, localizedText("ok"));
+    delete box;
 }

@@ -1,0 +1,299 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Killed at every step, on full disks and without handles: what was stored before stays.
+//
+// PAIRCADE_KILLS sets how many random moments to kill at, besides every single step.
+#include "game/memory_game.h"
+#include "highscores/highscore_file.h"
+#include "platform/user_folders.h"
+#include "settings/settings_keys.h"
+#include "support/files.h"
+#include "support/play.h"
+#include "support/test_platform.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+#include <csignal>
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/ptrace.h>
+#include <sys/resource.h>
+#include <sys/statvfs.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A running game of two players, whose end stores a result and a setting.
+class Game {
+public:
+    explicit Game(std::size_t results)
+    {
+        HighscoreEntry entry;
+        entry.gameMode = versusMode;
+        entry.amountCards = entry.amountRounds = 1;
+        HighscoreEntries entries(results, entry);
+        for (std::size_t i = 0; i < results; ++i)
+            entries[i].playerName = QString::number(i);
+        platform.writeHighscoreFile(encodeHighscores(entries));
+        platform.useResources(platform.home.path());
+        makeDeck(platform.home.path(), u"Cyberpunk"_s, 6);
+        game.setIsVersusMode(true);
+        game.setPlayerOneName(u"Ann"_s);
+        game.setPlayerTwoName(u"Ben"_s);
+        game.startNewGame();
+        m_results = platform.readHighscoreFile();
+        m_settings = contentsOf(settingsFile());
+        m_settingsAfter = QByteArray(m_settings).replace("GameIsActive=1", "GameIsActive=0");
+    }
+
+    /// Lays the files as they were before the end.
+    void rewind() const
+    {
+        platform.writeHighscoreFile(m_results);
+        writeFile(settingsFile(), m_settings);
+    }
+
+    /// Whether settings and results are the old or the new whole, after an end that
+    /// something came into. `stored` counts the new results.
+    [[nodiscard]] bool isWhole(int& stored) const
+    {
+        const QByteArray settings = contentsOf(settingsFile());
+        if (settings != m_settings && settings != m_settingsAfter)
+            return false;
+        const QByteArray results = platform.readHighscoreFile();
+        if (results == m_results)
+            return true;
+        ++stored;
+        const auto entries = decodeHighscores(results);
+        // All that was there, letter by letter, and one more.
+        return entries && entries->back().playerName == u"Ann"_s &&
+               entries->size() == decodeHighscores(m_results)->size() + 1 &&
+               results.startsWith(m_results.chopped(3));
+    }
+
+    TestPlatform platform{};
+    MemoryGame game{};
+
+private:
+    QByteArray m_results{};
+    QByteArray m_settings{};
+    QByteArray m_settingsAfter{};
+};
+
+/// The limit under which the process may open `free` files more.
+rlim_t limitFor(int free)
+{
+    rlim_t limit = 0;
+    for (; free > 0 || ::fcntl(int(limit), F_GETFD) != -1; ++limit)
+        free -= ::fcntl(int(limit), F_GETFD) == -1 ? 1 : 0;
+    return limit;
+}
+
+/// A disk of its own of 1 MB in the place of `folder`; unmounted at the end.
+class SmallDisk {
+public:
+    explicit SmallDisk(const QString& folder)
+        : m_folder(QFile::encodeName(folder))
+    {
+        isThere = ::unshare(CLONE_NEWNS) == 0 &&
+                  ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                  ::mount("none", m_folder.constData(), "tmpfs", 0, "size=1m") == 0;
+    }
+    ~SmallDisk()
+    {
+        if (isThere)
+            ::umount2(m_folder.constData(), MNT_DETACH);
+    }
+    Q_DISABLE_COPY_MOVE(SmallDisk)
+
+    /// Leaves `bytes` free, in whole pages.
+    void leave(qint64 bytes) const
+    {
+        const QString filler = QFile::decodeName(m_folder) + u"/filler"_s;
+        QFile::remove(filler);
+        struct statvfs disk {};
+        ::statvfs(m_folder.constData(), &disk);
+        writeFile(filler, QByteArray(qsizetype(disk.f_bavail * disk.f_bsize) - bytes, 'x'));
+    }
+    void setReadOnly(bool isReadOnly) const
+    {
+        ::mount(nullptr, m_folder.constData(), nullptr, MS_REMOUNT | (isReadOnly ? MS_RDONLY : 0),
+                "size=1m");
+    }
+
+    bool isThere = false;
+
+private:
+    QByteArray m_folder;
+};
+
+} // namespace
+
+class CrashTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        // What survives a kill does not depend on the disk, and this one is fast.
+        if (QFileInfo(u"/dev/shm"_s).isWritable())
+            qputenv("TMPDIR", "/dev/shm");
+    }
+
+    /// The kernel stops the process before and after each of its calls.
+    void killedAtAnyStepNothingIsLost()
+    {
+        const Game game(30);
+        int stored = 0;
+        int step = 0;
+        for (bool isOver = false; !isOver; ++step) {
+            const pid_t child = ::fork();
+            if (child == 0) {
+                (void)::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+                (void)std::raise(SIGSTOP);
+                const_cast<MemoryGame&>(game.game).endGame();
+                ::_exit(0);
+            }
+            int status = 0;
+            ::waitpid(child, &status, 0);
+            for (int i = 0; i < step && WIFSTOPPED(status); ++i) {
+                ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+                ::waitpid(child, &status, 0);
+            }
+            isOver = WIFEXITED(status);
+            if (isOver) {
+                QCOMPARE(WEXITSTATUS(status), 0);
+            } else {
+                ::kill(child, SIGKILL);
+                ::waitpid(child, &status, 0);
+                QVERIFY(WIFSIGNALED(status));
+            }
+            QVERIFY2(isWhole(game, stored), qPrintable(QString::number(step)));
+        }
+        QVERIFY2(step > 50 && stored > 1 && stored < step, "the steps were not taken one by one");
+        const auto left = QFileInfo(game.platform.highscoreFile()).dir().entryList(QDir::Files);
+        qInfo("%d steps, %d of them after the result was stored; files left over: %d", step, stored,
+              int(left.size()) - 1);
+    }
+
+    void killedAtAnyMomentNothingIsLost()
+    {
+        bool isSet = false;
+        const int asked = qEnvironmentVariableIntValue("PAIRCADE_KILLS", &isSet);
+        const Game game(1000);
+        QElapsedTimer length;
+        int stored = 0;
+        const int kills = isSet ? asked : 10;
+        qint64 longest = 0;
+        for (int i = 0; i <= kills; ++i) {
+            length.start();
+            const pid_t child = ::fork();
+            if (child == 0) {
+                const_cast<MemoryGame&>(game.game).endGame();
+                ::_exit(0);
+            }
+            if (i == 0) { // to learn how long it takes
+                ::waitpid(child, nullptr, 0);
+                longest = length.nsecsElapsed() / 1000;
+            } else {
+                ::usleep(useconds_t(QRandomGenerator::global()->bounded(longest)));
+                ::kill(child, SIGKILL);
+                ::waitpid(child, nullptr, 0);
+            }
+            QVERIFY(isWhole(game, stored));
+        }
+        qInfo("%d kills, %d of them after the result was stored", kills, stored - 1);
+    }
+
+    void aFullDiskLosesNothing()
+    {
+        Game game(30);
+        const SmallDisk disk(game.platform.home.path());
+        if (!disk.isThere)
+            QSKIP("only root can mount a disk");
+        QDir().mkpath(QFileInfo(settingsFile()).path());
+        const qint64 page = ::sysconf(_SC_PAGESIZE);
+        int stored = 0;
+        for (qint64 pages = 0; pages < 24; ++pages) {
+            game.rewind();
+            disk.leave(pages * page);
+            game.game.endGame();
+            QVERIFY2(shows(game), qPrintable(QString::number(pages)));
+            QVERIFY(game.isWhole(stored));
+        }
+        QVERIFY(stored > 1 && stored < 24);
+
+        game.rewind();
+        disk.setReadOnly(true);
+        game.game.endGame();
+        disk.setReadOnly(false);
+        stored = 0;
+        QVERIFY(game.isWhole(stored));
+        QCOMPARE(stored, 0);
+    }
+
+    void withoutHandlesNothingIsLost()
+    {
+        Game game(30);
+        rlimit before{};
+        ::getrlimit(RLIMIT_NOFILE, &before);
+        int stored = 0;
+        for (int free = 0; free < 8; ++free) {
+            game.rewind();
+            const rlimit few{limitFor(free), before.rlim_max};
+            ::setrlimit(RLIMIT_NOFILE, &few);
+            game.game.endGame();
+            ::setrlimit(RLIMIT_NOFILE, &before);
+            QVERIFY(game.isWhole(stored));
+            game.game.reloadHighscoresForCurrentSettings();
+            QVERIFY(shows(game));
+        }
+        QVERIFY(stored > 0 && stored < 8);
+    }
+
+    void aFolderThatVanishesIsMadeAnew()
+    {
+        Game game(30);
+        const QString folder = QFileInfo(game.platform.highscoreFile()).path();
+        const QByteArray before = game.platform.readHighscoreFile();
+        QVERIFY(QDir().rename(folder, folder + u"-taken"_s));
+        game.game.endGame();
+        QCOMPARE(game.game.bestVersusScores().size(), 1U);
+        QVERIFY(shows(game));
+        QCOMPARE(contentsOf(folder + u"-taken/highscores.json"_s), before);
+        // Put back, the old results are there again.
+        QVERIFY(QDir(folder).removeRecursively() && QDir().rename(folder + u"-taken"_s, folder));
+        game.game.reloadHighscoresForCurrentSettings();
+        QCOMPARE(game.game.bestVersusScores().size(), MemoryGame::maxHighscoreEntries);
+    }
+
+private:
+    /// The lists show the file, as they do after every reload.
+    static bool shows(const Game& game)
+    {
+        const auto entries = decodeHighscores(game.platform.readHighscoreFile());
+        const auto& shown = game.game.bestVersusScores();
+        return entries &&
+               shown.size() == std::min(entries->size(), MemoryGame::maxHighscoreEntries);
+    }
+
+    /// Whether another start finds all whole after a kill, and can write. Lays the files
+    /// as they were before.
+    static bool isWhole(const Game& game, int& stored)
+    {
+        if (!game.isWhole(stored))
+            return false;
+        UserDefaults next(settingsFile());
+        next.setInteger(SettingsKeys::VolumeSound, 7);
+        const bool isWritten = contentsOf(settingsFile()).contains("\nVolumeSound=7\n");
+        game.rewind();
+        return isWritten;
+    }
+};
+
+QTEST_GUILESS_MAIN(CrashTest)
+#include "crash_test.moc"

@@ -1,0 +1,371 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Random mouse and keys over all that has a window: nothing crashes, hangs or complains.
+//
+// PAIRCADE_SECONDS sets how long, PAIRCADE_SEED where to begin. A seed does not repeat a
+// run, which depends on time; the last actions before a failure are told instead.
+#include "app/termination.h"
+#include "platform/widgets/access_question.h"
+#include "settings/settings_keys.h"
+#include "support/game_window.h"
+#include "support/output_of.h"
+
+#include <QFileDialog>
+#include <QMenu>
+#include <QRandomGenerator>
+#include <QWheelEvent>
+#include <QWindow>
+#include <csignal>
+#include <map>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr unsigned hangs = 120; // seconds without an action; patient, for a busy machine
+constexpr int actionsInEachOther = 12;
+
+QStringList complaints;
+QStringList trail;
+
+void complain(QtMsgType, const QMessageLogContext&, const QString& text)
+{
+    // What a display without a screen says, and QTest of a click beside the window.
+    if (!text.startsWith(u"This plugin does not support"_s) &&
+        !text.startsWith(u"Mouse event at"_s))
+        complaints << text;
+}
+
+void tellAndDie(int signal)
+{
+    const QByteArray text = trail.join(u", "_s).toUtf8() + '\n';
+    (void)!::write(STDERR_FILENO, text.constData(), std::size_t(text.size()));
+    (void)std::signal(signal, SIG_DFL);
+    (void)std::raise(signal);
+}
+
+/// Plays one start of the program, from its window to its end, in its event loop.
+class Monkey : public QObject {
+    Q_OBJECT
+
+public:
+    Monkey(QRandomGenerator& random, std::map<QString, int>& seen, qint64 milliseconds)
+        : m_random(random)
+        , m_seen(seen)
+        , m_window([this](TestPlatform& platform) { prepare(platform); })
+    {
+        usePlatform(&m_services);
+        connect(&m_window.game(), &MemoryGame::changed, this, [this](MemoryGame::Member member) {
+            if (member == MemoryGame::Member::isGameActive && m_window.game().isGameActive())
+                ++m_seen[u"games of %1 pairs"_s.arg(m_window.game().pairsPerRound())];
+            if (member == MemoryGame::Member::gameCompleted && m_window.game().gameCompleted())
+                ++m_seen[u"games won"_s];
+        });
+        QTimer::singleShot(milliseconds, this, [] { QCoreApplication::exit(0); });
+        next();
+    }
+
+    [[nodiscard]] GameWindow& window() { return m_window; }
+
+private:
+    int draw(int bound) { return int(m_random.bounded(bound)); }
+    template <class List>
+    auto oneOf(const List& list)
+    {
+        return list.begin()[draw(int(std::size(list)))];
+    }
+
+    void prepare(TestPlatform& platform)
+    {
+        platform.defaults->setInteger(SettingsKeys::AmountCards, draw(8));
+        platform.defaults->setInteger(SettingsKeys::AmountRounds, draw(3));
+        platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, draw(2));
+        platform.defaults->setInteger(SettingsKeys::RemoveMatch, draw(2));
+        makeDeck(platform.home.path(), u"Kids"_s, 9);
+        if (draw(4) == 0)
+            platform.defaults->setString(SettingsKeys::CardDeck, u"iPhoto"_s);
+    }
+
+    void next()
+    {
+        ::alarm(hangs);
+        // Ahead of the action, since that may open a dialog and stay in it.
+        QTimer::singleShot(draw(4), this, [this] { act(); });
+    }
+
+    void act()
+    {
+        next();
+        if (m_depth >= actionsInEachOther)
+            return;
+        ++m_depth;
+        const auto before = trail.size();
+        choose();
+        if (trail.size() > before)
+            ++m_seen[u"actions"_s];
+        while (trail.size() > 40)
+            trail.removeFirst();
+        --m_depth;
+    }
+
+    void choose()
+    {
+        QWidgetList shown = QApplication::topLevelWidgets();
+        shown.removeIf([](const QWidget* widget) {
+            return !widget->isVisible() || widget->windowHandle() == nullptr;
+        });
+        if (shown.isEmpty())
+            return;
+        QWidget* top = oneOf(shown);
+        if (QWidget* const popup = QApplication::activePopupWidget(); popup && draw(10))
+            top = popup;
+        else if (QWidget* const modal = QApplication::activeModalWidget(); modal && draw(10))
+            top = modal;
+        // Lest it delete a file of this machine.
+        if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr)
+            return press(*QApplication::activeModalWidget(),
+                         draw(2) ? Qt::Key_Escape : Qt::Key_Return);
+
+        const int dice = draw(1000);
+        if (dice < 380)
+            play();
+        else if (dice < 600)
+            point(*top);
+        else if (dice < 930)
+            press(*top, key());
+        else if (dice < 950)
+            drag(*top);
+        else if (dice < 970)
+            turnWheel(*top);
+        else if (dice < 996)
+            disturb(*top);
+        else
+            leave();
+    }
+
+    void note(const QString& what) { trail << what; }
+
+    /// Something sensible: a game goes on, or one is started.
+    void play()
+    {
+        MemoryGame& game = m_window.game();
+        if (!game.isGameActive() || game.cards().empty()) {
+            if (auto* const start = m_window.window().findChild<QAbstractButton*>(
+                    game.isVersusMode() ? u"startVersusButton"_s : u"startButton"_s);
+                start != nullptr && start->isVisible())
+                m_window.click(*start);
+            return note(u"start"_s);
+        }
+        const auto first = game.firstSelectedIndex();
+        const std::size_t partner = first ? otherCard(game, *first, draw(4) > 0) : hiddenCard(game);
+        if (auto* const tile =
+                m_window.window().findChild<QAbstractButton*>(u"card%1"_s.arg(partner)))
+            m_window.click(*tile);
+        note(u"card %1"_s.arg(partner));
+    }
+
+    void point(QWidget& top)
+    {
+        QWidget* target = &top;
+        QWidgetList children = top.findChildren<QWidget*>();
+        children.removeIf([](const QWidget* widget) { return !widget->isVisible(); });
+        if (!children.isEmpty() && draw(6))
+            target = oneOf(children);
+        const QPoint place = target->mapTo(
+            &top, QPoint(draw(std::max(1, target->width())), draw(std::max(1, target->height()))));
+        note(
+            u"%1 %2"_s.arg(QLatin1String(target->metaObject()->className()), target->objectName()));
+        ++m_seen[u"clicks in a "_s + QLatin1String(top.metaObject()->className())];
+        QWindow* const window = top.windowHandle();
+        const auto button = draw(12) ? Qt::LeftButton : Qt::RightButton;
+        if (draw(8))
+            QTest::mouseClick(window, button, {}, place);
+        else
+            QTest::mouseDClick(window, button, {}, place);
+    }
+
+    void drag(QWidget& top)
+    {
+        note(u"drag"_s);
+        const auto place = [&] { return QPoint(draw(top.width()), draw(top.height())); };
+        const QPointer<QWindow> window = top.windowHandle();
+        QTest::mousePress(window, Qt::LeftButton, {}, place());
+        for (int i = 0; i < 3 && window; ++i)
+            QTest::mouseMove(window, place());
+        if (window)
+            QTest::mouseRelease(window, Qt::LeftButton, {}, place());
+    }
+
+    void turnWheel(QWidget& top)
+    {
+        note(u"wheel"_s);
+        QWidget* const target = oneOf(top.findChildren<QWidget*>() << &top);
+        const QPointF place(target->rect().center());
+        QWheelEvent event(place, target->mapToGlobal(place), {}, {0, draw(2) ? 120 : -120},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(target, &event);
+    }
+
+    QKeyCombination key()
+    {
+        using namespace Qt;
+        if (draw(3) == 0)
+            return QKeyCombination(Key(Key_A + draw(26)));
+        static constexpr std::array keys{
+            Key_Tab,       Key_Tab,    Key_Tab,    Key_Backtab, Key_Space,  Key_Space,
+            Key_Return,    Key_Return, Key_Escape, Key_Escape,  Key_Up,     Key_Down,
+            Key_Left,      Key_Right,  Key_Home,   Key_End,     Key_PageUp, Key_Delete,
+            Key_Backspace, Key_F1,     Key_F10,    Key_F11,     Key_Alt,    Key_Menu};
+        if (draw(4))
+            return QKeyCombination(oneOf(keys));
+        static constexpr std::array chords{CTRL | Key_N, CTRL | Key_Comma, CTRL | Key_Comma,
+                                           ALT | Key_G,  CTRL | Key_A,     CTRL | Key_X,
+                                           CTRL | Key_V, ALT | Key_V,      ALT | Key_H};
+        return oneOf(chords);
+    }
+
+    void press(QWidget& top, QKeyCombination combination)
+    {
+        note(QKeySequence(combination).toString());
+        QTest::keyClick(top.windowHandle(), combination.key(), combination.keyboardModifiers());
+        if (draw(15) == 0)
+            m_window.repeat(combination.key(), {});
+    }
+
+    /// What others do to the game: the desktop, other programs, the disk.
+    void disturb(QWidget& top)
+    {
+        TestPlatform& platform = m_window.platform;
+        switch (draw(8)) {
+        case 0:
+            note(u"minimise"_s);
+            return top.setWindowState(top.windowState() ^ Qt::WindowMinimized);
+        case 1:
+            note(u"resize"_s);
+            return top.windowHandle()->resize(draw(2000) + 1, draw(1500) + 1);
+        case 2:
+            note(u"garbage as results"_s);
+            return platform.writeHighscoreFile(draw(2) ? "[{" : "[]");
+        case 3:
+            note(u"deck"_s);
+            return platform.defaults->setString(
+                SettingsKeys::CardDeck,
+                oneOf(std::array{u"Cyberpunk"_s, u"Cyberpunk"_s, u"Kids"_s, u"None"_s, u""_s,
+                                 u"iPhoto"_s, u"iPhoto: Kids"_s, u"iPhoto: Sea"_s}));
+        case 4:
+            note(u"second start"_s);
+            return m_window.delegate.activate();
+        case 5:
+            note(u"alert"_s);
+            return m_window.game().showLocalizedAlert("enter_name");
+        case 6:
+            note(u"paint"_s);
+            return void(m_window.window().grab());
+        default:
+            note(u"close a window"_s);
+            if (&top != &m_window.window())
+                top.close();
+        }
+    }
+
+    void leave()
+    {
+        ++m_seen[u"ends of the program"_s];
+        switch (draw(3)) {
+        case 0:
+            note(u"SIGTERM"_s);
+            return void(std::raise(SIGTERM));
+        case 1:
+            note(u"quit"_s);
+            return press(m_window.window(), Qt::CTRL | Qt::Key_Q);
+        default:
+            note(u"close"_s);
+            m_window.window().close();
+        }
+    }
+
+    QRandomGenerator& m_random;
+    std::map<QString, int>& m_seen;
+    GameWindow m_window;
+    // Real photos, the decks being albums, and the real question about them.
+    AccessQuestion m_question{m_window.resources() + u"/Cards"_s};
+    PhotoLibrary m_photos{m_window.platform.photoAccess, &m_question,
+                          m_window.resources() + u"/Cards"_s,
+                          PhotoLibrary::helperOfRunningProgram()};
+    Platform m_services{*m_window.platform.defaults,
+                        platform().bundle,
+                        m_window.platform.mainQueue,
+                        m_window.platform.notifications,
+                        m_window.platform.audio,
+                        m_photos,
+                        m_window.alerts,
+                        m_window.platform.openedFiles};
+    int m_depth = 0;
+};
+
+} // namespace
+
+class MonkeyTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingCrashesHangsOrComplains()
+    {
+        bool isSet = false;
+        const int asked = qEnvironmentVariableIntValue("PAIRCADE_SECONDS", &isSet);
+        const QDeadlineTimer end(std::chrono::seconds(isSet ? asked : 5));
+        const QByteArray seedSet = qgetenv("PAIRCADE_SEED");
+        const quint32 seed =
+            seedSet.isEmpty() ? QRandomGenerator::global()->generate() : seedSet.toUInt();
+        qInfo("PAIRCADE_SEED=%u", seed);
+        QRandomGenerator random(seed);
+        std::map<QString, int> seen;
+        for (const int signal : {SIGSEGV, SIGABRT, SIGALRM})
+            (void)std::signal(signal, tellAndDie);
+        const QtMessageHandler before = qInstallMessageHandler(complain);
+        QByteArray log;
+        while (!end.hasExpired() && complaints.isEmpty()) {
+            trail.clear();
+            log += outputOf([&] {
+                const Termination termination;
+                // An end in a while, so that each layout and setting has its turn.
+                Monkey monkey(random, seen, std::min<qint64>(end.remainingTime(), 8000));
+                QApplication::exec();
+                TestPlatform& platform = monkey.window().platform;
+                monkey.window().delegate.applicationWillTerminate();
+                if (platform.defaults->integer(SettingsKeys::GameIsActive) != 0)
+                    complaints << u"a game is left running"_s;
+            });
+            ++seen[u"starts"_s];
+        }
+        ::alarm(0);
+        qInstallMessageHandler(before);
+
+        static const QRegularExpression described(
+            u"^(CardDeck ist leer|Ordnerinhalt konnte nicht gelesen werden: .*|"
+            "Sounddatei Sounds/[a-z_]+\\.mp3 nicht gefunden|"
+            "Fehler beim Zurücksetzen der Highscores: .*)?$"_s);
+        for (const QString& line : QString::fromUtf8(log).split(u'\n')) {
+            if (!described.match(line).hasMatch())
+                complaints << line;
+        }
+        QString summary;
+        for (const auto& [what, count] : seen)
+            summary += u"%1 %2, "_s.arg(what).arg(count);
+        qInfo("%s", qPrintable(summary));
+        QVERIFY2(complaints.isEmpty(),
+                 qPrintable(complaints.join(u'\n') + u"\nafter "_s + trail.join(u", "_s)));
+        QVERIFY(seen[u"actions"_s] > 50);
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QApplication application(argc, argv);
+    MonkeyTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "monkey_test.moc"

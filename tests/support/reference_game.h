@@ -1,0 +1,387 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "game/memory_game.h"
+#include "platform/localized_text.h"
+
+#include <QHash>
+#include <algorithm>
+#include <deque>
+
+/// The rules of the game once more, as plain as can be: no events, files, pictures or
+/// time. Written from the rules alone, it is what the real game is held against.
+///
+/// It is told what the real game leaves to chance, the boards; and when a delayed step
+/// falls due. Everything is public, for the comparison.
+class ReferenceGame {
+public:
+    using Member = MemoryGame::Member;
+    struct Card {
+        QUuid id{};
+        QUuid pair{};
+        bool isFaceUp = false;
+        bool isMatched = false;
+    };
+    struct TurnBack {
+        std::size_t first = 0;
+        std::size_t second = 0;
+        int missedPlayer = 0;
+    };
+    /// What waits in the main queue: an alert, or a turn-back that has fallen due.
+    struct Task {
+        QString alert{};
+        std::optional<TurnBack> turnBack{};
+    };
+
+    // The surroundings.
+    std::int64_t amountCards = 1;
+    std::int64_t amountRounds = 1;
+    QString deckSetting = QStringLiteral("Cyberpunk");
+    QHash<QString, int> deckSizes{};
+    HighscoreEntries file{};
+    HighscoreEntries removed{};
+    std::deque<Task> queue{};
+    std::optional<TurnBack> delayed{};
+    QStringList alerts{};
+    QByteArray log{};
+    int gameIsActive = 0;
+    int posts = 0;
+    int dealtPairs = 0;                ///< Of the board that the real game has to show.
+    std::vector<Member> assignments{}; ///< Since the last look, in order.
+
+    // The members of the game.
+    QString playerName{}, playerOneName{}, playerTwoName{}, winnerText{};
+    QString headerText = localizedText("enter_name");
+    HighscoreEntries bestTimeScores{}, bestFailureScores{}, bestVersusScores{};
+    std::vector<Card> cards{};
+    std::int64_t currentRound = 1, elapsedSeconds = 0, failedAttempts = 0;
+    bool gameCompleted = false, isGameActive = false, isVersusMode = false;
+    int currentPlayerIndex = 0;
+    std::array<std::int64_t, 2> playerScores{0, 0};
+    std::optional<std::size_t> firstSelectedIndex{};
+    bool isCheckingPair = false, timer = false, timerStarted = false;
+
+    template <class Value>
+    void assign(Value& member, const std::type_identity_t<Value>& value, Member name)
+    {
+        member = value;
+        assignments.push_back(name);
+    }
+
+    [[nodiscard]] int pairsPerRound() const
+    {
+        static constexpr std::array pairs{6, 8, 10, 12, 14, 20};
+        return pairs[std::size_t(layout() - 1)];
+    }
+    [[nodiscard]] std::int64_t layout() const
+    {
+        return amountCards < 1 ? 1 : amountCards > 6 ? 6 : amountCards;
+    }
+    [[nodiscard]] std::int64_t rounds() const { return amountRounds < 1 ? 1 : amountRounds; }
+    [[nodiscard]] std::array<QString, 2> names() const
+    {
+        const QString one = playerOneName.trimmed();
+        const QString two = playerTwoName.trimmed();
+        return {one.isEmpty() ? localizedText("player_one") : one,
+                two.isEmpty() ? localizedText("player_two") : two};
+    }
+    [[nodiscard]] QString toMove() const { return names()[std::size_t(currentPlayerIndex)]; }
+
+    [[nodiscard]] bool mayStart() const
+    {
+        return isVersusMode
+                   ? !playerOneName.trimmed().isEmpty() && !playerTwoName.trimmed().isEmpty()
+                   : !playerName.trimmed().isEmpty();
+    }
+
+    void startNewGame()
+    {
+        if (!mayStart())
+            return header(localizedText(isVersusMode ? "enter_player_names" : "enter_name"));
+        withdrawTurnBack();
+        if (!isVersusMode)
+            assign(playerName, playerName.trimmed(), Member::playerName);
+        timer = timerStarted = false;
+        assign(elapsedSeconds, 0, Member::elapsedSeconds);
+        assign(failedAttempts, 0, Member::failedAttempts);
+        assign(currentRound, 1, Member::currentRound);
+        assign(gameCompleted, false, Member::gameCompleted);
+        assign(winnerText, QString(), Member::winnerText);
+        assign(playerScores, {0, 0}, Member::playerScores);
+        assign(currentPlayerIndex, 0, Member::currentPlayerIndex);
+        assign(isGameActive, true, Member::isGameActive);
+        publish(1);
+        clearAttempt();
+        updateHeaderForCurrentTurn();
+        loadRound(currentRound);
+    }
+
+    void updateHeaderForCurrentTurn()
+    {
+        header(isVersusMode ? localizedText("player_turn", {toMove()})
+                            : localizedText("round_of_rounds", {currentRound, rounds()}));
+    }
+
+    void loadRound(std::int64_t round)
+    {
+        clearAttempt();
+        assign(currentRound, round, Member::currentRound);
+        updateHeaderForCurrentTurn();
+        const int pairs = pairsPerRound();
+        const QString deck = deckSetting.trimmed();
+        const QString prefix = QStringLiteral("iPhoto: ");
+        const bool isAlbum =
+            deck.startsWith(prefix) && !deck.mid(prefix.size()).trimmed().isEmpty();
+        const bool isLibrary = deck == QStringLiteral("iPhoto");
+        if (isAlbum || isLibrary)
+            alert("iphoto_access_denied", "iphoto_access_denied_info"); // the test's library
+        else if (deck.isEmpty())
+            log += "CardDeck ist leer\n";
+        else if (!deckSizes.contains(deck))
+            log += "Ordnerinhalt konnte nicht gelesen werden: " + deckFolder + deck.toUtf8() + '\n';
+        const int pictures = isAlbum || isLibrary ? 0 : deckSizes.value(deck);
+        if (pictures < pairs) {
+            const QString message =
+                isAlbum     ? localizedText("iphoto_not_enough_images_in_album", {pairs})
+                : isLibrary ? localizedText("iphoto_not_enough_images", {pairs})
+                            : localizedText("not_enough_images_for_round", {pairs, round});
+            header(message);
+            assign(isGameActive, false, Member::isGameActive);
+            publish(0);
+            assign(cards, {}, Member::cards);
+            queue.push_back({QStringLiteral("Paircade|") + message + QStringLiteral("|OK"), {}});
+            return;
+        }
+        dealtPairs = pairs;
+        assignments.push_back(Member::cards);
+    }
+
+    void flipCard(const QUuid& id)
+    {
+        if (!isGameActive || isCheckingPair)
+            return;
+        const auto card = std::ranges::find(cards, id, &Card::id);
+        if (card == cards.end() || card->isFaceUp || card->isMatched)
+            return;
+        const auto position = std::size_t(card - cards.begin());
+        if (!timerStarted)
+            timer = timerStarted = true;
+        turn(card->isFaceUp, true);
+        if (!firstSelectedIndex) {
+            firstSelectedIndex = position;
+            if (isVersusMode)
+                header(localizedText("player_choose_second_card", {toMove()}));
+            return;
+        }
+        const std::size_t first = *firstSelectedIndex;
+        if (cards[first].pair != card->pair) {
+            isCheckingPair = true;
+            assign(failedAttempts, failedAttempts + 1, Member::failedAttempts);
+            delayed = TurnBack{first, position, currentPlayerIndex};
+            return;
+        }
+        turn(cards[first].isMatched, true);
+        turn(cards[position].isMatched, true);
+        if (isVersusMode) {
+            auto scores = playerScores;
+            ++scores[std::size_t(currentPlayerIndex)];
+            assign(playerScores, scores, Member::playerScores);
+            header(localizedText("player_found_pair", {toMove()}));
+        }
+        clearAttempt();
+        if (std::ranges::all_of(cards, &Card::isMatched))
+            advanceToNextRoundIfNeeded();
+    }
+
+    void advanceToNextRoundIfNeeded()
+    {
+        if (currentRound >= rounds())
+            return finish();
+        assign(currentRound, currentRound + 1, Member::currentRound);
+        loadRound(currentRound);
+        header(isVersusMode ? localizedText("player_starts_round", {toMove(), currentRound})
+                            : localizedText("round_of_rounds", {currentRound, rounds()}));
+    }
+
+    void finish()
+    {
+        assign(gameCompleted, true, Member::gameCompleted);
+        assign(isGameActive, false, Member::isGameActive);
+        publish(0);
+        timer = false;
+        store();
+        updateLists();
+        const auto [one, two] = playerScores;
+        const QString seconds = QStringLiteral("%1:%2")
+                                    .arg(elapsedSeconds / 60, 2, 10, QLatin1Char('0'))
+                                    .arg(elapsedSeconds % 60, 2, 10, QLatin1Char('0'));
+        assign(winnerText,
+               !isVersusMode
+                   ? localizedText("singleplayer_result", {soloName(), seconds, failedAttempts})
+               : one > two ? localizedText("player_wins_score", {names()[0], one, two})
+               : two > one ? localizedText("player_wins_score", {names()[1], two, one})
+                           : localizedText("draw_score", {one, two}),
+               Member::winnerText);
+        header(winnerText);
+    }
+
+    void endGame()
+    {
+        withdrawTurnBack();
+        timer = false;
+        if (isVersusMode)
+            store();
+        updateLists();
+        assign(gameCompleted, false, Member::gameCompleted);
+        assign(winnerText, QString(), Member::winnerText);
+        header(QString());
+        clearAttempt();
+        assign(isGameActive, false, Member::isGameActive);
+        publish(0);
+    }
+
+    /// The clock's timer fires.
+    void tick()
+    {
+        if (timer)
+            assign(elapsedSeconds, elapsedSeconds + 1, Member::elapsedSeconds);
+    }
+
+    /// The delay after a miss is over: its step joins the queue.
+    void turnBackFallsDue()
+    {
+        if (delayed)
+            queue.push_back({{}, *std::exchange(delayed, {})});
+    }
+
+    /// The main loop comes round.
+    void runQueue()
+    {
+        for (; !queue.empty(); queue.pop_front()) {
+            if (const auto& step = queue.front().turnBack)
+                turnBack(*step);
+            else
+                alerts << queue.front().alert;
+        }
+    }
+
+    /// The lists of the current settings and mode, from the file.
+    void updateLists()
+    {
+        HighscoreEntries kept;
+        std::ranges::copy_if(file, std::back_inserter(kept), [this](const HighscoreEntry& entry) {
+            return entry.amountCards == layout() && entry.amountRounds == rounds() &&
+                   entry.gameMode ==
+                       (isVersusMode ? QLatin1String("versus") : QLatin1String("solo"));
+        });
+        using Entry = const HighscoreEntry&;
+        const auto best = [&kept](auto key) {
+            HighscoreEntries ranked = kept;
+            std::ranges::stable_sort(ranked, {}, key);
+            ranked.resize(std::min<std::size_t>(ranked.size(), 10));
+            return ranked;
+        };
+        if (isVersusMode) {
+            assign(bestVersusScores, best([](Entry entry) {
+                       return std::pair(-std::abs(entry.firstPlayerScore.value_or(0) -
+                                                  entry.secondPlayerScore.value_or(0)),
+                                        entry.elapsedSeconds);
+                   }),
+                   Member::bestVersusScores);
+            assign(bestTimeScores, {}, Member::bestTimeScores);
+            assign(bestFailureScores, {}, Member::bestFailureScores);
+            return;
+        }
+        assign(bestTimeScores, best([](Entry entry) {
+                   return std::pair(entry.elapsedSeconds, entry.failedAttempts);
+               }),
+               Member::bestTimeScores);
+        assign(bestFailureScores, best([](Entry entry) {
+                   return std::pair(entry.failedAttempts, entry.elapsedSeconds);
+               }),
+               Member::bestFailureScores);
+        assign(bestVersusScores, {}, Member::bestVersusScores);
+    }
+
+    void resetHighscores()
+    {
+        assign(bestTimeScores, {}, Member::bestTimeScores);
+        assign(bestFailureScores, {}, Member::bestFailureScores);
+        assign(bestVersusScores, {}, Member::bestVersusScores);
+        removed.insert(removed.end(), file.begin(), file.end());
+        file.clear();
+    }
+
+    void restoreHighscores()
+    {
+        file.insert(file.begin(), removed.begin(), removed.end());
+        removed.clear();
+        updateLists();
+    }
+
+    QByteArray deckFolder{}; ///< What stands before a deck's name in the log.
+
+private:
+    void header(const QString& text) { assign(headerText, text, Member::headerText); }
+    void turn(bool& side, bool value) { assign(side, value, Member::cards); }
+    void alert(const char* message, const char* information)
+    {
+        queue.push_back({localizedText(message) + u'|' + localizedText(information) + u'|' +
+                             localizedText("ok"),
+                         {}});
+    }
+    void publish(int status)
+    {
+        gameIsActive = status;
+        ++posts;
+    }
+    void clearAttempt()
+    {
+        firstSelectedIndex.reset();
+        isCheckingPair = false;
+    }
+    /// Left open by the rules; chosen: no miss outlives its game.
+    void withdrawTurnBack()
+    {
+        delayed.reset();
+        std::erase_if(queue, [](const Task& task) { return task.turnBack.has_value(); });
+    }
+    void turnBack(const TurnBack& miss)
+    {
+        for (const std::size_t position : {miss.first, miss.second}) {
+            if (position < cards.size())
+                turn(cards[position].isFaceUp, false);
+        }
+        clearAttempt();
+        if (isVersusMode) {
+            assign(currentPlayerIndex, (miss.missedPlayer + 1) % 2, Member::currentPlayerIndex);
+            header(localizedText("player_turn", {toMove()}));
+        }
+    }
+    [[nodiscard]] QString soloName() const
+    {
+        const QString name = playerName.trimmed();
+        return name.isEmpty() ? localizedText("unknown_player") : name;
+    }
+    void store()
+    {
+        HighscoreEntry entry;
+        entry.gameMode = isVersusMode ? QStringLiteral("versus") : QStringLiteral("solo");
+        entry.playerName = isVersusMode ? names()[0] : soloName();
+        entry.elapsedSeconds = elapsedSeconds;
+        entry.failedAttempts = failedAttempts;
+        entry.amountCards = layout();
+        entry.amountRounds = rounds();
+        if (isVersusMode) {
+            const auto [one, two] = playerScores;
+            entry.secondPlayerName = names()[1];
+            entry.firstPlayerScore = one;
+            entry.secondPlayerScore = two;
+            if (one != two)
+                entry.winnerName = names()[one > two ? 0 : 1];
+        }
+        file.push_back(entry);
+        updateLists();
+    }
+};
