@@ -5,14 +5,13 @@
 #include "platform/format_text.h"
 #include "settings/settings_keys.h"
 #include "support/game_window.h"
-#include "ui/elided_label.h"
+#include "support/texts_fit.h"
 
 #include <QAbstractButton>
-#include <QCheckBox>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <array>
@@ -82,6 +81,12 @@ class GeometryTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(!QFontDatabase::families(QFontDatabase::Japanese).isEmpty());
+        QVERIFY(!QFontDatabase::families(QFontDatabase::SimplifiedChinese).isEmpty());
+    }
+
     void everythingHasItsPlaceAndFont_data() { addRows({1, 2, 3, 4, 5, 6}, {u"en"_s}); }
 
     void everythingHasItsPlaceAndFont()
@@ -99,7 +104,7 @@ private Q_SLOTS:
         }
     }
 
-    void everythingCanBeReachedAndRead_data() { addRows({1, 6}, {u"en"_s, u"de"_s}); }
+    void everythingCanBeReachedAndRead_data() { addRows({1, 6}, TestPlatform::languages()); }
 
     void everythingCanBeReachedAndRead()
     {
@@ -157,10 +162,14 @@ private:
         QTest::addColumn<bool>("isFullScreen");
         for (const int layout : layouts) {
             for (const QString& language : languages) {
-                for (const bool isFullScreen : {false, true})
+                for (const bool isFullScreen : {false, true}) {
+                    // More room is a matter of the layout, not of the language.
+                    if (isFullScreen && language != u"en")
+                        continue;
                     QTest::addRow("layout %d, %s%s", layout, qPrintable(language),
                                   isFullScreen ? ", full screen" : "")
                         << layout << language << isFullScreen;
+                }
             }
         }
     }
@@ -361,15 +370,16 @@ private:
                 QVERIFY2(other == widget || !seen(*other).intersects(seen(*widget)),
                          name + " lies on " + other->objectName().toUtf8());
             if (const auto* const line = qobject_cast<ElidedLabel*>(widget)) {
-                const bool isOnlyNames = name == "nameLine" || name == "pairingLine";
-                QVERIFY2(isOnlyNames || line->shownText().endsWith(line->text().right(3)), name);
-            } else if (qobject_cast<QPushButton*>(widget) != nullptr ||
-                       qobject_cast<QCheckBox*>(widget) != nullptr) {
-                QVERIFY2(widget->sizeHint().width() <= widget->width() &&
-                             widget->sizeHint().height() <= widget->height(),
-                         name);
+                // Only names give way, here to fewer of their one letter. Each has marks
+                // about it that are not seen.
+                const auto besideNames = [](QString text) {
+                    static const QRegularExpression ofNames(u"[W…\u2066-\u2069]"_s);
+                    return text.remove(ofNames);
+                };
+                QVERIFY2(besideNames(line->shownText()) == besideNames(line->text()), name);
             }
         }
+        QCOMPARE(cutText(screen()), QString());
     }
 
     std::unique_ptr<GameWindow> m_window{};

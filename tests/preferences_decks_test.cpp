@@ -31,9 +31,9 @@ private Q_SLOTS:
         PaneWindow window("CardDeck=80s\nPaircadeAlbum=1\n", [status](TestPlatform& platform) {
             platform.photos.status = PhotoAuthorization(status);
             platform.photos.folder = u"<Garden>"_s;
-            platform.photos.content = {{u" Trip\n"_s, 3}, {u"Cat"_s, 1},  {std::nullopt, 5},
-                                       {u"Empty"_s, 0},   {u"Trip"_s, 2}, {u"bee"_s, 1},
-                                       {u" \n"_s, 4}};
+            platform.photos.content.list = {{u" Trip\n"_s, 3}, {u"Cat"_s, 1},  {std::nullopt, 5},
+                                            {u"Empty"_s, 0},   {u"Trip"_s, 2}, {u"bee"_s, 1},
+                                            {u" \n"_s, 4}};
         });
         QStringList titles;
         for (int item = 0; item < window.decks().count(); ++item)
@@ -60,13 +60,16 @@ private Q_SLOTS:
         if (albums.isEmpty())
             return;
 
-        // What is chosen is not written again; once the album goes, the choice goes with it.
+        // What is chosen is not written again; once the album is known to be gone, the
+        // choice goes with it.
         QSignalSpy written(window.platform.defaults.get(), &UserDefaults::written);
+        window.pane->rebuildCardDeckMenu();
+        window.platform.photos.content = {.list = {}, .isComplete = false};
         window.pane->rebuildCardDeckMenu();
         QCOMPARE(window.decks().currentText(), u"iPhoto: bee"_s);
         QCOMPARE(written.count(), 0);
         window.close();
-        window.platform.photos.content.clear();
+        window.platform.photos.content.isComplete = true;
         window.open();
         QCOMPARE(window.decks().currentText(), u"Cyberpunk"_s);
         QCOMPARE(stored("CardDeck"), QByteArray("Cyberpunk"));

@@ -359,7 +359,7 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="card_vinyl_record"><extracomment>Picture, 70s.</extracomment><source></source><translation>Schallplatte</translation></message>
 
   <!-- Pictures of the 80s deck that no deck above has -->
-  <message id="card_arcade_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Spielautomat</translation></message>
+  <message id="card_arcade_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Arcade-Automat</translation></message>
   <message id="card_bmx_bike"><extracomment>Picture, 80s.</extracomment><source></source><translation>BMX-Rad</translation></message>
   <message id="card_boombox"><extracomment>Picture, 80s.</extracomment><source></source><translation>Radiorekorder</translation></message>
   <message id="card_cassette_tape"><extracomment>Picture, 80s.</extracomment><source></source><translation>Kassette</translation></message>
@@ -404,5 +404,17 @@ Bilder und Klänge: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>O</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>K</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Paare-Spiel</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Karten umdrehen und Paare finden, allein oder zu zweit</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>Paare;Karten;Pärchen;Gedächtnis;Merkspiel;Kinder;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Drehe immer zwei Karten um, merke dir, wo die Bilder liegen, und finde die Paare: allein gegen die Uhr oder zu zweit im Wechsel.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Es gibt vier Decks mit gezeichneten Bildern, sechs Spielfelder von 4 × 3 bis 8 × 5 und so viele Runden, wie du möchtest. Auch deine eigenen Fotos können ein Deck sein; sie verlassen den Computer nie. Die besten Ergebnisse stehen neben dem Spielfeld. Das ganze Spiel lässt sich mit der Maus, mit der Tastatur oder mit einem Screenreader spielen.</translation></message>
 </context>
 </TS>

@@ -404,5 +404,17 @@ Pictures and sounds: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>F</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Pairs game</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Turn over cards and find the pairs, alone or in twos</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>pairs;cards;memory;concentration;matching;children;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Turn over two cards at a time, remember where the pictures lie, and find the pairs: alone against the clock, or two players taking turns.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>There are four decks of drawn pictures, six boards from 4 × 3 to 8 × 5 and as many rounds as you like. Your own photos can be a deck, too; they never leave the computer. The best results stand beside the board. The whole game can be played by mouse, by keyboard or with a screen reader.</translation></message>
 </context>
 </TS>

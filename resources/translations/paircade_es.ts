@@ -12,7 +12,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="enter_name"><extracomment>Placeholder of the name field of the one-player form; also the header text before a game.</extracomment>
     <source></source><translation>Escribe tu nombre</translation></message>
   <message id="enter_player_names"><extracomment>Header text when a versus game lacks a name.</extracomment>
-    <source></source><translation>Escribid los dos nombres</translation></message>
+    <source></source><translation>Escribe los dos nombres</translation></message>
   <message id="player_one"><extracomment>Placeholder of the first versus field; stands in for the first player's name.</extracomment>
     <source></source><translation>Jugador 1</translation></message>
   <message id="player_two"><extracomment>Placeholder of the second versus field; stands in for the second player's name.</extracomment>
@@ -22,7 +22,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="start_game"><extracomment>Button of the one-player form.</extracomment>
     <source></source><translation>Jugar</translation></message>
   <message id="start_versus_game"><extracomment>Button of the two-player form.</extracomment>
-    <source></source><translation>Jugar un duelo</translation></message>
+    <source></source><translation>Empezar duelo</translation></message>
   <message id="end_game"><extracomment>Sidebar button while a game runs.</extracomment>
     <source></source><translation>Terminar partida</translation></message>
   <message id="versus_mode"><extracomment>Sidebar check box that switches to two players; also the heading above the versus highscores.</extracomment>
@@ -30,7 +30,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="reset_highscores"><extracomment>Sidebar button; removes all stored results.</extracomment>
     <source></source><translation>Borrar puntuaciones</translation></message>
   <message id="open_highscores_html"><extracomment>Sidebar button; opens the highscore page in the web browser.</extracomment>
-    <source></source><translation>Ver en el navegador</translation></message>
+    <source></source><translation>Ver puntuaciones</translation></message>
   <message id="best_times"><extracomment>Sidebar heading above the fastest results.</extracomment>
     <source></source><translation>Mejores tiempos</translation></message>
   <message id="fewest_failed_attempts"><extracomment>Sidebar heading above the results with the fewest failed attempts.</extracomment>
@@ -56,9 +56,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>¡Muy bien, %1! %2 · Fallos: %3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>¡%1 gana %2–%3!</translation></message>
+    <source></source><translation>¡%1 gana por %2 a %3!</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>Empate: %1–%2</translation></message>
+    <source></source><translation>Empate: %1 a %2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
@@ -84,7 +84,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>No se pudo guardar la página de puntuaciones</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>
-    <source></source><translation>Paircade ya está abierto, pero no responde. Espera un momento e inténtalo de nuevo. Si no sirve, cierra antes el otro Paircade.</translation></message>
+    <source></source><translation>Paircade ya está abierto, pero no responde. Espera un momento e inténtalo de nuevo. Si no funciona, cierra antes el otro Paircade.</translation></message>
 
   <!-- Preferences -->
   <message id="play_rounds_label_singular"><extracomment>Beside the rounds control. %1: number of rounds, always 1.</extracomment>
@@ -118,7 +118,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_photos"><extracomment>Caption before what the game may see of the player’s photos; quoted in iphoto_access_denied_info.</extracomment>
     <source></source><translation>Fotos:</translation></message>
   <message id="preferences_photos_not_asked"><extracomment>After the caption: the player was not yet asked for the photos.</extracomment>
-    <source></source><translation>Aún sin preguntar</translation></message>
+    <source></source><translation>Aún sin decidir</translation></message>
   <message id="preferences_photos_all"><extracomment>After the caption: the game may use all pictures.</extracomment>
     <source></source><translation>Todas las imágenes</translation></message>
   <message id="preferences_photos_only"><extracomment>After the caption: the game may use the pictures of one folder. %1: the folder’s name.</extracomment>
@@ -144,7 +144,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_window"><extracomment>Caption before preferences_full_screen.</extracomment>
     <source></source><translation>Ventana:</translation></message>
   <message id="preferences_full_screen"><extracomment>Check box: the game starts in full screen.</extracomment>
-    <source></source><translation>Empezar a pantalla completa</translation></message>
+    <source></source><translation>Iniciar en pantalla completa</translation></message>
 
   <!-- Highscore page in the browser -->
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
@@ -227,7 +227,7 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_open_highscores_html"><extracomment>Letter underlined in open_highscores_html.</extracomment><source></source><translation>n</translation></message>
   <message id="mnemonic_versus_mode"><extracomment>Letter underlined in versus_mode.</extracomment><source></source><translation>M</translation></message>
   <message id="mnemonic_start_game"><extracomment>Letter underlined in start_game.</extracomment><source></source><translation>J</translation></message>
-  <message id="mnemonic_start_versus_game"><extracomment>Letter underlined in start_versus_game.</extracomment><source></source><translation>J</translation></message>
+  <message id="mnemonic_start_versus_game"><extracomment>Letter underlined in start_versus_game.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_end_game"><extracomment>Letter underlined in end_game.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_menu_new_game"><extracomment>Letter underlined in menu_new_game.</extracomment><source></source><translation>N</translation></message>
   <message id="mnemonic_menu_end_game"><extracomment>Letter underlined in menu_end_game.</extracomment><source></source><translation>T</translation></message>
@@ -248,7 +248,7 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_preferences_album"><extracomment>Letter underlined in preferences_album.</extracomment><source></source><translation>n</translation></message>
   <message id="mnemonic_preferences_play_sounds"><extracomment>Letter underlined in preferences_play_sounds.</extracomment><source></source><translation>s</translation></message>
   <message id="mnemonic_preferences_volume"><extracomment>Letter underlined in preferences_volume.</extracomment><source></source><translation>V</translation></message>
-  <message id="mnemonic_preferences_full_screen"><extracomment>Letter underlined in preferences_full_screen.</extracomment><source></source><translation>E</translation></message>
+  <message id="mnemonic_preferences_full_screen"><extracomment>Letter underlined in preferences_full_screen.</extracomment><source></source><translation>I</translation></message>
 
   <!-- Screen readers -->
   <message id="window_accessible_name"><extracomment>Name of the main window.</extracomment>
@@ -274,7 +274,7 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
     <source></source><translation>Una pareja: %1</translation></message>
   <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
-    <source></source><translation>No es pareja</translation></message>
+    <source></source><translation>No son pareja</translation></message>
   <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
     <source></source><translation>Otra vez boca abajo</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
@@ -303,10 +303,10 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="card_robot_hand"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Mano robótica</translation></message>
   <message id="card_satellite_dish"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Antena parabólica</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Rascacielos</translation></message>
-  <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Zapatilla</translation></message>
+  <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Zapatilla deportiva</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Paraguas</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Máquina expendedora</translation></message>
-  <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Gafas de realidad virtual</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Máquina de bebidas</translation></message>
+  <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Gafas VR</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
   <message id="card_balloon"><extracomment>Picture, Kids.</extracomment><source></source><translation>Globo aerostático</translation></message>
@@ -350,7 +350,7 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="card_orange_slice"><extracomment>Picture, 70s.</extracomment><source></source><translation>Naranja</translation></message>
   <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lámpara colgante</translation></message>
   <message id="card_platform_shoe"><extracomment>Picture, 70s.</extracomment><source></source><translation>Zapato de plataforma</translation></message>
-  <message id="card_roller_skate"><extracomment>Picture, 70s.</extracomment><source></source><translation>Patín</translation></message>
+  <message id="card_roller_skate"><extracomment>Picture, 70s.</extracomment><source></source><translation>Patín de ruedas</translation></message>
   <message id="card_sunglasses"><extracomment>Picture, 70s and 80s.</extracomment><source></source><translation>Gafas de sol</translation></message>
   <message id="card_surfboard"><extracomment>Picture, 70s.</extracomment><source></source><translation>Tabla de surf</translation></message>
   <message id="card_telephone"><extracomment>Picture, 70s and 80s.</extracomment><source></source><translation>Teléfono</translation></message>
@@ -368,15 +368,15 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>Disquete</translation></message>
   <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Máquina de chicles</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Ordenador</translation></message>
-  <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Polo</translation></message>
+  <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Helado de palo</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>Cámara</translation></message>
   <message id="card_joystick"><extracomment>Picture, 80s.</extracomment><source></source><translation>Joystick</translation></message>
   <message id="card_lightning_bolt"><extracomment>Picture, 80s.</extracomment><source></source><translation>Rayo</translation></message>
-  <message id="card_mobile_phone"><extracomment>Picture, 80s.</extracomment><source></source><translation>Móvil</translation></message>
+  <message id="card_mobile_phone"><extracomment>Picture, 80s.</extracomment><source></source><translation>Teléfono móvil</translation></message>
   <message id="card_palm_tree"><extracomment>Picture, 80s.</extracomment><source></source><translation>Palmera</translation></message>
   <message id="card_popcorn"><extracomment>Picture, 80s.</extracomment><source></source><translation>Palomitas</translation></message>
   <message id="card_skateboard"><extracomment>Picture, 80s.</extracomment><source></source><translation>Monopatín</translation></message>
-  <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Deportivo</translation></message>
+  <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>Coche deportivo</translation></message>
   <message id="card_synthesizer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Sintetizador</translation></message>
   <message id="card_wrist_watch"><extracomment>Picture, 80s.</extracomment><source></source><translation>Reloj</translation></message>
 
@@ -384,7 +384,7 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
     <source></source><translation>¿Jugar con tus propias fotos?</translation></message>
   <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
-    <source></source><translation>Para las barajas de fotos, Paircade hace cartas con las imágenes de tu carpeta de imágenes. Solo las mira: no cambia ninguna y nada sale de este ordenador.</translation></message>
+    <source></source><translation>Para las barajas de fotos, Paircade hace cartas con las imágenes de tu carpeta de imágenes. Solo las mira: no cambia ninguna y nada sale de este equipo.</translation></message>
   <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
     <source></source><translation>Todas las imágenes</translation></message>
   <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
@@ -404,5 +404,17 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>S</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Juego de parejas</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Da la vuelta a las cartas y encuentra las parejas, a solas o a dúo</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>parejas;cartas;memoria;concentración;niños;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Da la vuelta a dos cartas cada vez, recuerda dónde está cada imagen y encuentra las parejas: a solas contra el reloj o dos personas por turnos.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Hay cuatro barajas de dibujos, seis tableros de 4 × 3 a 8 × 5 y tantas rondas como quieras. Tus propias fotos también pueden ser una baraja; nunca salen del ordenador. Los mejores resultados aparecen junto al tablero. Se puede jugar por completo con el ratón, con el teclado o con un lector de pantalla.</translation></message>
 </context>
 </TS>

@@ -30,15 +30,15 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="reset_highscores"><extracomment>Sidebar button; removes all stored results.</extracomment>
     <source></source><translation>Effacer les scores</translation></message>
   <message id="open_highscores_html"><extracomment>Sidebar button; opens the highscore page in the web browser.</extracomment>
-    <source></source><translation>Scores (navigateur)</translation></message>
+    <source></source><translation>Scores dans le navigateur</translation></message>
   <message id="best_times"><extracomment>Sidebar heading above the fastest results.</extracomment>
     <source></source><translation>Meilleurs temps</translation></message>
   <message id="fewest_failed_attempts"><extracomment>Sidebar heading above the results with the fewest failed attempts.</extracomment>
-    <source></source><translation>Moins d’échecs</translation></message>
+    <source></source><translation>Le moins d’erreurs</translation></message>
   <message id="time_label"><extracomment>Sidebar, below the logo. %1: time as minutes and seconds, 01:07.</extracomment>
     <source></source><translation>Temps : %1</translation></message>
   <message id="failed_attempts_label"><extracomment>Sidebar, below the time. %1: number of failed attempts, from 0.</extracomment>
-    <source></source><translation>Échecs : %1</translation></message>
+    <source></source><translation>Erreurs : %1</translation></message>
 
   <!-- Line above the board -->
   <message id="round_of_rounds"><extracomment>One player. %1: current round, from 1; %2: number of rounds.</extracomment>
@@ -50,25 +50,25 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="player_found_pair"><extracomment>Two players. %1: name of the player who found a pair. May be the last pair of the game.</extracomment>
     <source></source><translation>%1 trouve une paire !</translation></message>
   <message id="player_starts_round"><extracomment>Two players, a further round begins. %1: name of the player to move; %2: number of the round, from 2.</extracomment>
-    <source></source><translation>%1 ouvre la manche %2</translation></message>
+    <source></source><translation>%1 commence la manche %2</translation></message>
 
   <!-- Results, shown large after a game -->
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
-    <source></source><translation>Bravo, %1 ! %2 · Échecs : %3</translation></message>
+    <source></source><translation>Bravo, %1 ! %2 · Erreurs : %3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1 gagne %2–%3 !</translation></message>
+    <source></source><translation>%1 gagne %2 à %3 !</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>Match nul : %1–%2</translation></message>
+    <source></source><translation>Match nul : %1 à %2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Ce jeu de cartes n’a pas assez d’images. Il en faut %1 (manche %2). Choisissez un autre jeu ou une disposition plus petite dans les préférences.</translation></message>
+    <source></source><translation>Ce jeu de cartes n’a pas assez d’images. Il en faut %1 (manche %2). Choisissez un autre jeu de cartes ou une disposition plus petite dans les préférences.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
-    <source></source><translation>Il n’y a pas assez de photos pour une manche. Il en faut %1. Ajoutez des photos, ou choisissez un autre jeu ou une disposition plus petite dans les préférences.</translation></message>
+    <source></source><translation>Il n’y a pas assez de photos pour une manche. Il en faut %1. Ajoutez des photos, ou choisissez un autre jeu de cartes ou une disposition plus petite dans les préférences.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
-    <source></source><translation>Cet album n’a pas assez de photos pour une manche. Il en faut %1. Ajoutez des photos au dossier de l’album, ou choisissez un autre jeu ou une disposition plus petite dans les préférences.</translation></message>
+    <source></source><translation>Cet album n’a pas assez de photos pour une manche. Il en faut %1. Ajoutez des photos au dossier de l’album, ou choisissez un autre jeu de cartes ou une disposition plus petite dans les préférences.</translation></message>
   <message id="iphoto_access_denied"><extracomment>Message, first line: a photo deck is chosen, but access to the photos is not allowed.</extracomment>
     <source></source><translation>Paircade n’a pas accès à vos photos</translation></message>
   <message id="iphoto_access_denied_info"><extracomment>Message, below iphoto_access_denied. The quoted word is the caption in the preferences.</extracomment>
@@ -76,11 +76,11 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="iphoto_album_not_found"><extracomment>Message, first line: the folder of the chosen album is gone.</extracomment>
     <source></source><translation>L’album photo est introuvable</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
-    <source></source><translation>Son dossier a peut-être été renommé, déplacé ou supprimé. Rétablissez le dossier ou choisissez un autre jeu dans les préférences.</translation></message>
+    <source></source><translation>Son dossier a peut-être été renommé, déplacé ou supprimé. Rétablissez le dossier ou choisissez un autre jeu de cartes dans les préférences.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
     <source></source><translation>Aucune photo trouvée</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>Le dossier d’où ce jeu tire ses photos est vide. Ajoutez-y des photos ou choisissez un autre jeu dans les préférences.</translation></message>
+    <source></source><translation>Le dossier d’où ce jeu de cartes tire ses photos est vide. Ajoutez-y des photos ou choisissez un autre jeu de cartes dans les préférences.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Impossible d’enregistrer la page des scores</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>
@@ -104,7 +104,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_card_layout"><extracomment>Caption before the number of the card layout.</extracomment>
     <source></source><translation>Disposition :</translation></message>
   <message id="preferences_locked"><extracomment>Why the numbers of rounds and of the layout cannot be changed while a game runs.</extracomment>
-    <source></source><translation>Modifiable une fois la partie finie.</translation></message>
+    <source></source><translation>Modifiable une fois la partie terminée.</translation></message>
   <message id="preferences_found_pairs"><extracomment>Caption before preferences_remove_match.</extracomment>
     <source></source><translation>Paires trouvées :</translation></message>
   <message id="preferences_remove_match"><extracomment>Check box: found pairs leave the board.</extracomment>
@@ -112,7 +112,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_deck"><extracomment>Caption before the menu of the decks.</extracomment>
     <source></source><translation>Jeu de cartes :</translation></message>
   <message id="preferences_preview"><extracomment>For screen readers: the first pictures of the chosen deck. %1: their names, with commas between.</extracomment>
-    <source></source><translation>Images du jeu : %1</translation></message>
+    <source></source><translation>Images du jeu de cartes : %1</translation></message>
   <message id="preferences_no_preview"><extracomment>For screen readers: backs of cards in place of the pictures, which are the player’s own photos or missing.</extracomment>
     <source></source><translation>Dos des cartes</translation></message>
   <message id="preferences_photos"><extracomment>Caption before what the game may see of the player’s photos; quoted in iphoto_access_denied_info.</extracomment>
@@ -132,11 +132,11 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_photos_unavailable"><extracomment>Why the button beside the photos cannot be pressed.</extracomment>
     <source></source><translation>Cette version ne peut pas utiliser vos photos.</translation></message>
   <message id="preferences_album"><extracomment>Check box: keeps an album named Paircade.</extracomment>
-    <source></source><translation>Garder un album Paircade</translation></message>
+    <source></source><translation>Tenir un album Paircade</translation></message>
   <message id="preferences_sound"><extracomment>Caption before preferences_play_sounds.</extracomment>
     <source></source><translation>Son :</translation></message>
   <message id="preferences_play_sounds"><extracomment>Check box.</extracomment>
-    <source></source><translation>Jouer les sons</translation></message>
+    <source></source><translation>Activer les sons</translation></message>
   <message id="preferences_volume"><extracomment>Caption before the slider of the volume.</extracomment>
     <source></source><translation>Volume :</translation></message>
   <message id="volume_percent"><extracomment>Beside the slider of the volume. %1: 0 to 100. Where a space belongs before the sign it does not break.</extracomment>
@@ -158,7 +158,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_time"><extracomment>Column heading.</extracomment>
     <source></source><translation>Temps</translation></message>
   <message id="highscores_html_failures"><extracomment>Column heading: failed attempts of one player, or pairs of two players, 3 : 5.</extracomment>
-    <source></source><translation>Échecs / score</translation></message>
+    <source></source><translation>Erreurs / score</translation></message>
   <message id="highscores_html_cards"><extracomment>Column heading: columns and rows of the board, 4x3.</extracomment>
     <source></source><translation>Cartes</translation></message>
   <message id="highscores_html_rounds"><extracomment>Column heading: number of rounds.</extracomment>
@@ -245,10 +245,10 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_preferences_deck"><extracomment>Letter underlined in preferences_deck.</extracomment><source></source><translation>c</translation></message>
   <message id="mnemonic_preferences_photos_allow"><extracomment>Letter underlined in preferences_photos_allow.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_preferences_photos_change"><extracomment>Letter underlined in preferences_photos_change.</extracomment><source></source><translation>o</translation></message>
-  <message id="mnemonic_preferences_album"><extracomment>Letter underlined in preferences_album.</extracomment><source></source><translation>G</translation></message>
-  <message id="mnemonic_preferences_play_sounds"><extracomment>Letter underlined in preferences_play_sounds.</extracomment><source></source><translation>J</translation></message>
+  <message id="mnemonic_preferences_album"><extracomment>Letter underlined in preferences_album.</extracomment><source></source><translation>T</translation></message>
+  <message id="mnemonic_preferences_play_sounds"><extracomment>Letter underlined in preferences_play_sounds.</extracomment><source></source><translation>s</translation></message>
   <message id="mnemonic_preferences_volume"><extracomment>Letter underlined in preferences_volume.</extracomment><source></source><translation>V</translation></message>
-  <message id="mnemonic_preferences_full_screen"><extracomment>Letter underlined in preferences_full_screen.</extracomment><source></source><translation>é</translation></message>
+  <message id="mnemonic_preferences_full_screen"><extracomment>Letter underlined in preferences_full_screen.</extracomment><source></source><translation>p</translation></message>
 
   <!-- Screen readers -->
   <message id="window_accessible_name"><extracomment>Name of the main window.</extracomment>
@@ -305,8 +305,8 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Gratte-ciel</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Basket</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Parapluie</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Distributeur</translation></message>
-  <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Casque de réalité virtuelle</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Distributeur de boissons</translation></message>
+  <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Casque VR</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
   <message id="card_balloon"><extracomment>Picture, Kids.</extracomment><source></source><translation>Montgolfière</translation></message>
@@ -348,7 +348,7 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="card_lava_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampe à lave</translation></message>
   <message id="card_mushroom"><extracomment>Picture, 70s.</extracomment><source></source><translation>Champignon</translation></message>
   <message id="card_orange_slice"><extracomment>Picture, 70s.</extracomment><source></source><translation>Orange</translation></message>
-  <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Suspension</translation></message>
+  <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampe suspendue</translation></message>
   <message id="card_platform_shoe"><extracomment>Picture, 70s.</extracomment><source></source><translation>Chaussure à plateforme</translation></message>
   <message id="card_roller_skate"><extracomment>Picture, 70s.</extracomment><source></source><translation>Patin à roulettes</translation></message>
   <message id="card_sunglasses"><extracomment>Picture, 70s and 80s.</extracomment><source></source><translation>Lunettes de soleil</translation></message>
@@ -368,9 +368,9 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>Disquette</translation></message>
   <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Distributeur de chewing-gums</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Ordinateur</translation></message>
-  <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Glace à l’eau</translation></message>
+  <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Bâtonnet glacé</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>Appareil photo</translation></message>
-  <message id="card_joystick"><extracomment>Picture, 80s.</extracomment><source></source><translation>Manette</translation></message>
+  <message id="card_joystick"><extracomment>Picture, 80s.</extracomment><source></source><translation>Joystick</translation></message>
   <message id="card_lightning_bolt"><extracomment>Picture, 80s.</extracomment><source></source><translation>Éclair</translation></message>
   <message id="card_mobile_phone"><extracomment>Picture, 80s.</extracomment><source></source><translation>Téléphone portable</translation></message>
   <message id="card_palm_tree"><extracomment>Picture, 80s.</extracomment><source></source><translation>Palmier</translation></message>
@@ -384,7 +384,7 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="photo_question_title"><extracomment>Heading of the question for access to the player’s photos.</extracomment>
     <source></source><translation>Jouer avec vos photos ?</translation></message>
   <message id="photo_question_text"><extracomment>Under the heading: what the photos are for.</extracomment>
-    <source></source><translation>Pour les jeux de photos, Paircade fait des cartes avec les images de votre dossier d’images. Il ne fait que les regarder : aucune image n’est modifiée et rien ne quitte cet ordinateur.</translation></message>
+    <source></source><translation>Pour les jeux de cartes photo, Paircade fait des cartes avec les images de votre dossier d’images. Il ne fait que les regarder : aucune image n’est modifiée et rien ne quitte cet ordinateur.</translation></message>
   <message id="photo_question_all"><extracomment>Button, answer to the question.</extracomment>
     <source></source><translation>Toutes les images</translation></message>
   <message id="photo_question_all_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
@@ -396,7 +396,7 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
     <source></source><translation>Aucun accès</translation></message>
   <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
-    <source></source><translation>Seulement les quatre jeux fournis</translation></message>
+    <source></source><translation>Seulement les quatre jeux de cartes fournis</translation></message>
   <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
     <source></source><translation>Vous pourrez changer d’avis dans les préférences.</translation></message>
   <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
@@ -404,5 +404,17 @@ Images et sons : CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>d</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>A</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Jeu de paires</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Retournez les cartes et retrouvez les paires, en solo ou à deux</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>paires;cartes;mémoire;concentration;enfants;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Retournez deux cartes à la fois, retenez où se trouvent les images et retrouvez les paires : en solo contre la montre, ou à deux, chacun son tour.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Il y a quatre jeux de cartes dessinées, six plateaux de 4 × 3 à 8 × 5 et autant de manches que vous voulez. Vos propres photos peuvent aussi servir de cartes ; elles ne quittent jamais l’ordinateur. Les meilleurs résultats s’affichent à côté du plateau. Tout se joue à la souris, au clavier ou avec un lecteur d’écran.</translation></message>
 </context>
 </TS>

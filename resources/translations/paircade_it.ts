@@ -50,25 +50,25 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="player_found_pair"><extracomment>Two players. %1: name of the player who found a pair. May be the last pair of the game.</extracomment>
     <source></source><translation>%1 trova una coppia!</translation></message>
   <message id="player_starts_round"><extracomment>Two players, a further round begins. %1: name of the player to move; %2: number of the round, from 2.</extracomment>
-    <source></source><translation>%1 apre la manche %2</translation></message>
+    <source></source><translation>%1 inizia la manche %2</translation></message>
 
   <!-- Results, shown large after a game -->
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>Ottimo, %1! %2 · Errori: %3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1 vince %2–%3!</translation></message>
+    <source></source><translation>%1 vince %2 a %3!</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>Pareggio: %1–%2</translation></message>
+    <source></source><translation>Pareggio: %1 a %2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Questo mazzo ha troppe poche immagini. Ne servono %1 (manche %2). Scegli un altro mazzo o un tavolo più piccolo nelle preferenze.</translation></message>
+    <source></source><translation>Questo mazzo ha troppe poche immagini. Ne servono %1 (manche %2). Scegli un altro mazzo o una griglia più piccola nelle preferenze.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
-    <source></source><translation>Ci sono troppe poche foto per una manche. Ne servono %1. Aggiungi altre foto, oppure scegli un altro mazzo o un tavolo più piccolo nelle preferenze.</translation></message>
+    <source></source><translation>Ci sono troppe poche foto per una manche. Ne servono %1. Aggiungi altre foto, oppure scegli un altro mazzo o una griglia più piccola nelle preferenze.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
-    <source></source><translation>Questo album ha troppe poche foto per una manche. Ne servono %1. Aggiungi altre foto alla cartella dell’album, oppure scegli un altro mazzo o un tavolo più piccolo nelle preferenze.</translation></message>
+    <source></source><translation>Questo album ha troppe poche foto per una manche. Ne servono %1. Aggiungi altre foto alla cartella dell’album, oppure scegli un altro mazzo o una griglia più piccola nelle preferenze.</translation></message>
   <message id="iphoto_access_denied"><extracomment>Message, first line: a photo deck is chosen, but access to the photos is not allowed.</extracomment>
     <source></source><translation>Paircade non può usare le tue foto</translation></message>
   <message id="iphoto_access_denied_info"><extracomment>Message, below iphoto_access_denied. The quoted word is the caption in the preferences.</extracomment>
@@ -102,7 +102,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_rounds"><extracomment>Caption before the number of rounds.</extracomment>
     <source></source><translation>Manche:</translation></message>
   <message id="preferences_card_layout"><extracomment>Caption before the number of the card layout.</extracomment>
-    <source></source><translation>Tavolo:</translation></message>
+    <source></source><translation>Griglia:</translation></message>
   <message id="preferences_locked"><extracomment>Why the numbers of rounds and of the layout cannot be changed while a game runs.</extracomment>
     <source></source><translation>Si può cambiare a partita finita.</translation></message>
   <message id="preferences_found_pairs"><extracomment>Caption before preferences_remove_match.</extracomment>
@@ -150,7 +150,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
     <source></source><translation>Record di Paircade</translation></message>
   <message id="highscores_html_subtitle"><extracomment>Below the heading. %1: internal number, left out on purpose; %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
-    <source></source><translation>Tutti i risultati salvati. Impostazioni attuali: tavolo %2 di 6, manche: %3.</translation></message>
+    <source></source><translation>Tutti i risultati salvati. Impostazioni attuali: griglia %2 di 6, manche: %3.</translation></message>
   <message id="highscores_html_generated"><extracomment>Below the subtitle. %1: date and time of the page.</extracomment>
     <source></source><translation>Creato il %1</translation></message>
   <message id="highscores_html_player"><extracomment>Column heading: one name, or two with vs between them.</extracomment>
@@ -240,7 +240,7 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>I</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>M</translation></message>
-  <message id="mnemonic_preferences_card_layout"><extracomment>Letter underlined in preferences_card_layout.</extracomment><source></source><translation>o</translation></message>
+  <message id="mnemonic_preferences_card_layout"><extracomment>Letter underlined in preferences_card_layout.</extracomment><source></source><translation>G</translation></message>
   <message id="mnemonic_preferences_remove_match"><extracomment>Letter underlined in preferences_remove_match.</extracomment><source></source><translation>d</translation></message>
   <message id="mnemonic_preferences_deck"><extracomment>Letter underlined in preferences_deck.</extracomment><source></source><translation>z</translation></message>
   <message id="mnemonic_preferences_photos_allow"><extracomment>Letter underlined in preferences_photos_allow.</extracomment><source></source><translation>C</translation></message>
@@ -305,7 +305,7 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Grattacielo</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Scarpa da ginnastica</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Ombrello</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Distributore</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Distributore di bevande</translation></message>
   <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Visore VR</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
@@ -348,7 +348,7 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="card_lava_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampada lava</translation></message>
   <message id="card_mushroom"><extracomment>Picture, 70s.</extracomment><source></source><translation>Fungo</translation></message>
   <message id="card_orange_slice"><extracomment>Picture, 70s.</extracomment><source></source><translation>Arancia</translation></message>
-  <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampadario</translation></message>
+  <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampada a sospensione</translation></message>
   <message id="card_platform_shoe"><extracomment>Picture, 70s.</extracomment><source></source><translation>Scarpa con zeppa</translation></message>
   <message id="card_roller_skate"><extracomment>Picture, 70s.</extracomment><source></source><translation>Pattino a rotelle</translation></message>
   <message id="card_sunglasses"><extracomment>Picture, 70s and 80s.</extracomment><source></source><translation>Occhiali da sole</translation></message>
@@ -366,7 +366,7 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>Cubo rompicapo</translation></message>
   <message id="card_flamingo"><extracomment>Picture, 80s.</extracomment><source></source><translation>Fenicottero</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>Dischetto</translation></message>
-  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Distributore di gomme</translation></message>
+  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Distributore di chewing gum</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Computer</translation></message>
   <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Ghiacciolo</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>Macchina fotografica</translation></message>
@@ -404,5 +404,17 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>S</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Gioco delle coppie</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Gira le carte e trova le coppie, in solitario o in due</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>coppie;carte;memoria;concentrazione;bambini;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Gira due carte alla volta, ricorda dove si trovano le immagini e trova le coppie: in solitario contro il tempo o in due a turno.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Ci sono quattro mazzi di immagini disegnate, sei tabelloni da 4 × 3 a 8 × 5 e tutte le manche che vuoi. Anche le tue foto possono diventare un mazzo; non lasciano mai il computer. I risultati migliori sono accanto al tabellone. Si può giocare interamente con il mouse, con la tastiera o con un lettore di schermo.</translation></message>
 </context>
 </TS>

@@ -12,13 +12,13 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="enter_name"><extracomment>Placeholder of the name field of the one-player form; also the header text before a game.</extracomment>
     <source></source><translation>名前を入力してください</translation></message>
   <message id="enter_player_names"><extracomment>Header text when a versus game lacks a name.</extracomment>
-    <source></source><translation>二人の名前を入力してください</translation></message>
+    <source></source><translation>2人の名前を入力してください</translation></message>
   <message id="player_one"><extracomment>Placeholder of the first versus field; stands in for the first player's name.</extracomment>
     <source></source><translation>プレイヤー1</translation></message>
   <message id="player_two"><extracomment>Placeholder of the second versus field; stands in for the second player's name.</extracomment>
     <source></source><translation>プレイヤー2</translation></message>
   <message id="unknown_player"><extracomment>Name stored with a one-player result that has none.</extracomment>
-    <source></source><translation>名無し</translation></message>
+    <source></source><translation>名前なし</translation></message>
   <message id="start_game"><extracomment>Button of the one-player form.</extracomment>
     <source></source><translation>ゲーム開始</translation></message>
   <message id="start_versus_game"><extracomment>Button of the two-player form.</extracomment>
@@ -56,9 +56,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>%1さん、おみごと！ %2 · ミス：%3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1さんの勝ち！ %2–%3</translation></message>
+    <source></source><translation>%1さんの勝ち！ %2対%3</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>引き分け %1–%2</translation></message>
+    <source></source><translation>引き分け %1対%2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
@@ -84,7 +84,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>記録ページを保存できませんでした</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>
-    <source></source><translation>Paircadeはすでに起動していますが、応答がありません。しばらく待ってもう一度お試しください。だめなときは、起動中のPaircadeを先に終了してください。</translation></message>
+    <source></source><translation>Paircadeはすでに起動していますが、応答がありません。しばらく待ってもう一度お試しください。それでも動かないときは、起動中のPaircadeを先に終了してください。</translation></message>
 
   <!-- Preferences -->
   <message id="play_rounds_label_singular"><extracomment>Beside the rounds control. %1: number of rounds, always 1.</extracomment>
@@ -118,11 +118,11 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_photos"><extracomment>Caption before what the game may see of the player’s photos; quoted in iphoto_access_denied_info.</extracomment>
     <source></source><translation>写真：</translation></message>
   <message id="preferences_photos_not_asked"><extracomment>After the caption: the player was not yet asked for the photos.</extracomment>
-    <source></source><translation>未確認</translation></message>
+    <source></source><translation>未設定</translation></message>
   <message id="preferences_photos_all"><extracomment>After the caption: the game may use all pictures.</extracomment>
     <source></source><translation>すべての画像</translation></message>
   <message id="preferences_photos_only"><extracomment>After the caption: the game may use the pictures of one folder. %1: the folder’s name.</extracomment>
-    <source></source><translation>「%1」のみ</translation></message>
+    <source></source><translation>次のみ：「%1」</translation></message>
   <message id="preferences_photos_none"><extracomment>After the caption: the game may use no pictures.</extracomment>
     <source></source><translation>アクセスなし</translation></message>
   <message id="preferences_photos_allow"><extracomment>Button: lets the player allow access to the photos for the first time.</extracomment>
@@ -266,7 +266,7 @@ Ctrl+Q：終了</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>%1行%2列、空き</translation></message>
   <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
-    <source></source><translation>写真%1</translation></message>
+    <source></source><translation>画像%1</translation></message>
 
   <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
   <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
@@ -366,7 +366,7 @@ Ctrl+Q：終了</translation></message>
   <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>キューブパズル</translation></message>
   <message id="card_flamingo"><extracomment>Picture, 80s.</extracomment><source></source><translation>フラミンゴ</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>フロッピーディスク</translation></message>
-  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>ガムマシン</translation></message>
+  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>ガムボールマシン</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>パソコン</translation></message>
   <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>アイスキャンディー</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>カメラ</translation></message>
@@ -394,7 +394,7 @@ Ctrl+Q：終了</translation></message>
   <message id="photo_question_folder_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
     <source></source><translation>選んだフォルダーの中だけ</translation></message>
   <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
-    <source></source><translation>アクセスなし</translation></message>
+    <source></source><translation>許可しない</translation></message>
   <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
     <source></source><translation>ゲーム付属の4つのデッキだけ</translation></message>
   <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
@@ -404,5 +404,17 @@ Ctrl+Q：終了</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>F</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>神経衰弱ゲーム</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>カードをめくってペアをそろえるゲーム</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>ペア;カード;神経衰弱;記憶;こども;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>カードを2枚ずつめくり、絵の場所を覚えて、ペアをそろえましょう。1人でタイムに挑戦することも、2人で交代で遊ぶこともできます。</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>絵のデッキは4種類、ボードは4 × 3から8 × 5までの6種類、ラウンド数は自由です。自分の写真もデッキになります。写真がコンピューターの外に出ることはありません。最高記録はボードの横に表示されます。マウスだけでも、キーボードだけでも、スクリーンリーダーでも遊べます。</translation></message>
 </context>
 </TS>

@@ -20,9 +20,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="unknown_player"><extracomment>Name stored with a one-player result that has none.</extracomment>
     <source></source><translation>Onbekend</translation></message>
   <message id="start_game"><extracomment>Button of the one-player form.</extracomment>
-    <source></source><translation>Start spel</translation></message>
+    <source></source><translation>Spel starten</translation></message>
   <message id="start_versus_game"><extracomment>Button of the two-player form.</extracomment>
-    <source></source><translation>Start duel</translation></message>
+    <source></source><translation>Duel starten</translation></message>
   <message id="end_game"><extracomment>Sidebar button while a game runs.</extracomment>
     <source></source><translation>Spel stoppen</translation></message>
   <message id="versus_mode"><extracomment>Sidebar check box that switches to two players; also the heading above the versus highscores.</extracomment>
@@ -266,7 +266,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="tile_removed"><extracomment>A place whose card was found and taken off. %1: row; %2: column.</extracomment>
     <source></source><translation>Rij %1, kolom %2, leeg</translation></message>
   <message id="picture_without_name"><extracomment>Name of a picture that has none, such as a photo. %1: number of the picture, from 1.</extracomment>
-    <source></source><translation>afbeelding %1</translation></message>
+    <source></source><translation>plaatje %1</translation></message>
 
   <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
   <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
@@ -278,7 +278,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
     <source></source><translation>Weer gesloten</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
-    <source></source><translation>Nog te vinden paren: %1</translation></message>
+    <source></source><translation>Resterende paren: %1</translation></message>
   <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
     <source></source><translation>Er is geen spel bezig.</translation></message>
 
@@ -293,7 +293,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="card_hover_car"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Zweefauto</translation></message>
   <message id="card_jellyfish"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Kwal</translation></message>
   <message id="card_microchip"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Microchip</translation></message>
-  <message id="card_motorcycle"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Motor</translation></message>
+  <message id="card_motorcycle"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Motorfiets</translation></message>
   <message id="card_noodle_bowl"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Kom noedels</translation></message>
   <message id="card_padlock"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Hangslot</translation></message>
   <message id="card_palm"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Palmboom</translation></message>
@@ -305,7 +305,7 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Wolkenkrabber</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Sneaker</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Paraplu</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Automaat</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drankautomaat</translation></message>
   <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>VR-bril</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
@@ -404,5 +404,17 @@ Afbeeldingen en geluiden: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>M</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>G</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Paren zoeken</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Draai kaarten om en vind de paren, alleen of met zijn tweeën</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>paren;kaarten;geheugen;concentratie;kinderen;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Draai telkens twee kaarten om, onthoud waar de plaatjes liggen en vind de paren: alleen tegen de klok of met zijn tweeën om de beurt.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Er zijn vier kaartspellen met getekende plaatjes, zes borden van 4 × 3 tot 8 × 5 en zoveel rondes als je wilt. Ook je eigen foto’s kunnen een kaartspel zijn; ze verlaten de computer nooit. De beste resultaten staan naast het bord. Het hele spel is te spelen met de muis, met het toetsenbord of met een schermlezer.</translation></message>
 </context>
 </TS>

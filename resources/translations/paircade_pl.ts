@@ -44,7 +44,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="round_of_rounds"><extracomment>One player. %1: current round, from 1; %2: number of rounds.</extracomment>
     <source></source><translation>Runda %1 z %2</translation></message>
   <message id="player_turn"><extracomment>Two players, nothing turned yet. %1: name of the player to move.</extracomment>
-    <source></source><translation>%1, teraz ty</translation></message>
+    <source></source><translation>%1, twoja kolej</translation></message>
   <message id="player_choose_second_card"><extracomment>Two players, one card turned. %1: name of the player to move.</extracomment>
     <source></source><translation>%1, wybierz drugą kartę</translation></message>
   <message id="player_found_pair"><extracomment>Two players. %1: name of the player who found a pair. May be the last pair of the game.</extracomment>
@@ -56,9 +56,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>Brawo, %1! %2 · Pomyłki: %3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1 wygrywa %2–%3!</translation></message>
+    <source></source><translation>%1 wygrywa %2:%3!</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>Remis: %1–%2</translation></message>
+    <source></source><translation>Remis %1:%2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
@@ -236,7 +236,7 @@ Obrazki i dźwięki: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_preferences"><extracomment>Letter underlined in menu_preferences.</extracomment><source></source><translation>P</translation></message>
   <message id="mnemonic_menu_quit"><extracomment>Letter underlined in menu_quit.</extracomment><source></source><translation>m</translation></message>
   <message id="mnemonic_menu_full_screen"><extracomment>Letter underlined in menu_full_screen.</extracomment><source></source><translation>P</translation></message>
-  <message id="mnemonic_menu_status"><extracomment>Letter underlined in menu_status.</extracomment><source></source><translation>O</translation></message>
+  <message id="mnemonic_menu_status"><extracomment>Letter underlined in menu_status.</extracomment><source></source><translation>w</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>K</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>O</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>R</translation></message>
@@ -270,11 +270,11 @@ Obrazki i dźwięki: CC-BY-SA-4.0</translation></message>
 
   <!-- Said by screen readers; a full stop is put after a text that ends in no mark of its own -->
   <message id="said_dealt"><extracomment>A new board lies there. %1: rows, at least 3; %2: columns, at least 4.</extracomment>
-    <source></source><translation>Rozdano karty: rzędy: %1, kolumny: %2</translation></message>
+    <source></source><translation>Rozdano karty. Rzędy: %1, kolumny: %2</translation></message>
   <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
     <source></source><translation>Para: %1</translation></message>
   <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
-    <source></source><translation>Nie ma pary</translation></message>
+    <source></source><translation>To nie para</translation></message>
   <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
     <source></source><translation>Znów zakryte</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
@@ -299,13 +299,13 @@ Obrazki i dźwięki: CC-BY-SA-4.0</translation></message>
   <message id="card_palm"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Palma</translation></message>
   <message id="card_rain_boots"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Kalosze</translation></message>
   <message id="card_robot"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Robot</translation></message>
-  <message id="card_robot_dog"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Robot pies</translation></message>
-  <message id="card_robot_hand"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Ręka robota</translation></message>
+  <message id="card_robot_dog"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Pies robot</translation></message>
+  <message id="card_robot_hand"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Dłoń robota</translation></message>
   <message id="card_satellite_dish"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Antena satelitarna</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drapacz chmur</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>But sportowy</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Parasol</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Automat z przekąskami</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Automat z napojami</translation></message>
   <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Gogle VR</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
@@ -342,10 +342,10 @@ Obrazki i dźwięki: CC-BY-SA-4.0</translation></message>
   <message id="card_disco_ball"><extracomment>Picture, 70s.</extracomment><source></source><translation>Kula dyskotekowa</translation></message>
   <message id="card_dove"><extracomment>Picture, 70s.</extracomment><source></source><translation>Gołąb</translation></message>
   <message id="card_egg_chair"><extracomment>Picture, 70s.</extracomment><source></source><translation>Fotel kula</translation></message>
-  <message id="card_flared_trousers"><extracomment>Picture, 70s.</extracomment><source></source><translation>Dzwony</translation></message>
+  <message id="card_flared_trousers"><extracomment>Picture, 70s.</extracomment><source></source><translation>Spodnie dzwony</translation></message>
   <message id="card_fondue_pot"><extracomment>Picture, 70s.</extracomment><source></source><translation>Fondue</translation></message>
   <message id="card_guitar"><extracomment>Picture, 70s.</extracomment><source></source><translation>Gitara</translation></message>
-  <message id="card_lava_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampa lawa</translation></message>
+  <message id="card_lava_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampa lawowa</translation></message>
   <message id="card_mushroom"><extracomment>Picture, 70s.</extracomment><source></source><translation>Grzyb</translation></message>
   <message id="card_orange_slice"><extracomment>Picture, 70s.</extracomment><source></source><translation>Pomarańcza</translation></message>
   <message id="card_pendant_lamp"><extracomment>Picture, 70s.</extracomment><source></source><translation>Lampa wisząca</translation></message>
@@ -366,7 +366,7 @@ Obrazki i dźwięki: CC-BY-SA-4.0</translation></message>
   <message id="card_colour_cube"><extracomment>Picture, 80s.</extracomment><source></source><translation>Kostka logiczna</translation></message>
   <message id="card_flamingo"><extracomment>Picture, 80s.</extracomment><source></source><translation>Flaming</translation></message>
   <message id="card_floppy_disk"><extracomment>Picture, 80s.</extracomment><source></source><translation>Dyskietka</translation></message>
-  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Automat z gumami</translation></message>
+  <message id="card_gum_machine"><extracomment>Picture, 80s.</extracomment><source></source><translation>Automat z gumą do żucia</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Komputer</translation></message>
   <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Lód na patyku</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>Aparat</translation></message>
@@ -404,5 +404,17 @@ Obrazki i dźwięki: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>W</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>f</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>B</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Gra w pary</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Odwracaj karty i znajduj pary, samodzielnie lub we dwoje</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>pary;karty;pamięć;koncentracja;dzieci;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Odwracaj po dwie karty, zapamiętuj, gdzie leżą obrazki, i znajduj pary: samodzielnie na czas albo we dwoje na zmianę.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Są cztery talie rysowanych obrazków, sześć plansz od 4 × 3 do 8 × 5 i tyle rund, ile chcesz. Talią mogą być też twoje własne zdjęcia; nigdy nie opuszczają komputera. Najlepsze wyniki widać obok planszy. W całą grę można grać myszą, klawiaturą lub z czytnikiem ekranu.</translation></message>
 </context>
 </TS>

@@ -30,7 +30,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="reset_highscores"><extracomment>Sidebar button; removes all stored results.</extracomment>
     <source></source><translation>Apagar recordes</translation></message>
   <message id="open_highscores_html"><extracomment>Sidebar button; opens the highscore page in the web browser.</extracomment>
-    <source></source><translation>Ver no navegador</translation></message>
+    <source></source><translation>Recordes no navegador</translation></message>
   <message id="best_times"><extracomment>Sidebar heading above the fastest results.</extracomment>
     <source></source><translation>Melhores tempos</translation></message>
   <message id="fewest_failed_attempts"><extracomment>Sidebar heading above the results with the fewest failed attempts.</extracomment>
@@ -56,19 +56,19 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>Muito bem, %1! %2 · Erros: %3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1 vence por %2–%3!</translation></message>
+    <source></source><translation>%1 vence por %2 a %3!</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>Empate: %1–%2</translation></message>
+    <source></source><translation>Empate: %1 a %2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Este baralho tem poucas imagens. São necessárias %1 (rodada %2). Escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
+    <source></source><translation>Este baralho não tem imagens suficientes. São necessárias %1 (rodada %2). Escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
-    <source></source><translation>Há poucas fotos para uma rodada. São necessárias %1. Adicione mais fotos, ou escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
+    <source></source><translation>Não há fotos suficientes para uma rodada. São necessárias %1. Adicione mais fotos, ou escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
-    <source></source><translation>Este álbum tem poucas fotos para uma rodada. São necessárias %1. Adicione mais fotos à pasta do álbum, ou escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
+    <source></source><translation>Este álbum não tem fotos suficientes para uma rodada. São necessárias %1. Adicione mais fotos à pasta do álbum, ou escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
   <message id="iphoto_access_denied"><extracomment>Message, first line: a photo deck is chosen, but access to the photos is not allowed.</extracomment>
     <source></source><translation>O Paircade não tem acesso às suas fotos</translation></message>
   <message id="iphoto_access_denied_info"><extracomment>Message, below iphoto_access_denied. The quoted word is the caption in the preferences.</extracomment>
@@ -104,7 +104,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_card_layout"><extracomment>Caption before the number of the card layout.</extracomment>
     <source></source><translation>Tabuleiro:</translation></message>
   <message id="preferences_locked"><extracomment>Why the numbers of rounds and of the layout cannot be changed while a game runs.</extracomment>
-    <source></source><translation>Pode ser mudado quando o jogo acabar.</translation></message>
+    <source></source><translation>Pode ser alterado quando o jogo acabar.</translation></message>
   <message id="preferences_found_pairs"><extracomment>Caption before preferences_remove_match.</extracomment>
     <source></source><translation>Pares encontrados:</translation></message>
   <message id="preferences_remove_match"><extracomment>Check box: found pairs leave the board.</extracomment>
@@ -128,7 +128,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_photos_allow"><extracomment>Button: lets the player allow access to the photos for the first time.</extracomment>
     <source></source><translation>Permitir…</translation></message>
   <message id="preferences_photos_change"><extracomment>Button: lets the player change the access to the photos.</extracomment>
-    <source></source><translation>Mudar…</translation></message>
+    <source></source><translation>Alterar…</translation></message>
   <message id="preferences_photos_unavailable"><extracomment>Why the button beside the photos cannot be pressed.</extracomment>
     <source></source><translation>Esta versão não pode usar suas fotos.</translation></message>
   <message id="preferences_album"><extracomment>Check box: keeps an album named Paircade.</extracomment>
@@ -150,7 +150,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
     <source></source><translation>Recordes do Paircade</translation></message>
   <message id="highscores_html_subtitle"><extracomment>Below the heading. %1: internal number, left out on purpose; %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
-    <source></source><translation>Todos os resultados guardados. Ajustes atuais: tabuleiro %2 de 6, rodadas: %3.</translation></message>
+    <source></source><translation>Todos os resultados salvos. Ajustes atuais: tabuleiro %2 de 6, rodadas: %3.</translation></message>
   <message id="highscores_html_generated"><extracomment>Below the subtitle. %1: date and time of the page.</extracomment>
     <source></source><translation>Gerado em %1</translation></message>
   <message id="highscores_html_player"><extracomment>Column heading: one name, or two with vs between them.</extracomment>
@@ -224,7 +224,7 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_view"><extracomment>Letter underlined in menu_view.</extracomment><source></source><translation>x</translation></message>
   <message id="mnemonic_menu_help"><extracomment>Letter underlined in menu_help.</extracomment><source></source><translation>u</translation></message>
   <message id="mnemonic_reset_highscores"><extracomment>Letter underlined in reset_highscores.</extracomment><source></source><translation>A</translation></message>
-  <message id="mnemonic_open_highscores_html"><extracomment>Letter underlined in open_highscores_html.</extracomment><source></source><translation>V</translation></message>
+  <message id="mnemonic_open_highscores_html"><extracomment>Letter underlined in open_highscores_html.</extracomment><source></source><translation>R</translation></message>
   <message id="mnemonic_versus_mode"><extracomment>Letter underlined in versus_mode.</extracomment><source></source><translation>M</translation></message>
   <message id="mnemonic_start_game"><extracomment>Letter underlined in start_game.</extracomment><source></source><translation>g</translation></message>
   <message id="mnemonic_start_versus_game"><extracomment>Letter underlined in start_versus_game.</extracomment><source></source><translation>g</translation></message>
@@ -244,7 +244,7 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_preferences_remove_match"><extracomment>Letter underlined in preferences_remove_match.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_preferences_deck"><extracomment>Letter underlined in preferences_deck.</extracomment><source></source><translation>h</translation></message>
   <message id="mnemonic_preferences_photos_allow"><extracomment>Letter underlined in preferences_photos_allow.</extracomment><source></source><translation>P</translation></message>
-  <message id="mnemonic_preferences_photos_change"><extracomment>Letter underlined in preferences_photos_change.</extracomment><source></source><translation>u</translation></message>
+  <message id="mnemonic_preferences_photos_change"><extracomment>Letter underlined in preferences_photos_change.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_preferences_album"><extracomment>Letter underlined in preferences_album.</extracomment><source></source><translation>M</translation></message>
   <message id="mnemonic_preferences_play_sounds"><extracomment>Letter underlined in preferences_play_sounds.</extracomment><source></source><translation>s</translation></message>
   <message id="mnemonic_preferences_volume"><extracomment>Letter underlined in preferences_volume.</extracomment><source></source><translation>V</translation></message>
@@ -274,9 +274,9 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="said_pair"><extracomment>The second card turned makes a pair. %1: name of the picture.</extracomment>
     <source></source><translation>Um par: %1</translation></message>
   <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
-    <source></source><translation>Não é par</translation></message>
+    <source></source><translation>Não formam par</translation></message>
   <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
-    <source></source><translation>Viradas de novo</translation></message>
+    <source></source><translation>Viradas para baixo</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
     <source></source><translation>Pares restantes: %1</translation></message>
   <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
@@ -287,7 +287,7 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="card_cat"><extracomment>Picture, Cyberpunk and Kids.</extracomment><source></source><translation>Gato</translation></message>
   <message id="card_drone"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Drone</translation></message>
   <message id="card_eye"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Olho</translation></message>
-  <message id="card_globe"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Globo</translation></message>
+  <message id="card_globe"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Globo terrestre</translation></message>
   <message id="card_headphones"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Fones de ouvido</translation></message>
   <message id="card_heart"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Coração</translation></message>
   <message id="card_hover_car"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Carro voador</translation></message>
@@ -305,8 +305,8 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Arranha-céu</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Tênis</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Guarda-chuva</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Máquina automática</translation></message>
-  <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Óculos de realidade virtual</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Máquina de bebidas</translation></message>
+  <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Óculos VR</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
   <message id="card_balloon"><extracomment>Picture, Kids.</extracomment><source></source><translation>Balão</translation></message>
@@ -337,7 +337,7 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="card_bicycle"><extracomment>Picture, 70s.</extracomment><source></source><translation>Bicicleta</translation></message>
   <message id="card_butterfly"><extracomment>Picture, 70s.</extracomment><source></source><translation>Borboleta</translation></message>
   <message id="card_cactus"><extracomment>Picture, 70s.</extracomment><source></source><translation>Cacto</translation></message>
-  <message id="card_camper_van"><extracomment>Picture, 70s.</extracomment><source></source><translation>Perua</translation></message>
+  <message id="card_camper_van"><extracomment>Picture, 70s.</extracomment><source></source><translation>Motorhome</translation></message>
   <message id="card_daisy"><extracomment>Picture, 70s.</extracomment><source></source><translation>Margarida</translation></message>
   <message id="card_disco_ball"><extracomment>Picture, 70s.</extracomment><source></source><translation>Globo de discoteca</translation></message>
   <message id="card_dove"><extracomment>Picture, 70s.</extracomment><source></source><translation>Pomba</translation></message>
@@ -404,5 +404,17 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>S</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Jogo de pares</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Vire as cartas e encontre os pares, só ou a dois</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>pares;cartas;memória;concentração;crianças;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Vire duas cartas de cada vez, lembre onde estão as imagens e encontre os pares: só, contra o relógio, ou a dois, um de cada vez.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Há quatro baralhos de imagens desenhadas, seis tabuleiros de 4 × 3 a 8 × 5 e quantas rodadas você quiser. Suas próprias fotos também podem ser um baralho; elas nunca saem do computador. Os melhores resultados ficam ao lado do tabuleiro. O jogo inteiro pode ser jogado com o mouse, com o teclado ou com um leitor de tela.</translation></message>
 </context>
 </TS>

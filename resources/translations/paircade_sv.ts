@@ -30,7 +30,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="reset_highscores"><extracomment>Sidebar button; removes all stored results.</extracomment>
     <source></source><translation>Rensa topplistan</translation></message>
   <message id="open_highscores_html"><extracomment>Sidebar button; opens the highscore page in the web browser.</extracomment>
-    <source></source><translation>Öppna i webbläsaren</translation></message>
+    <source></source><translation>Topplistan i webbläsaren</translation></message>
   <message id="best_times"><extracomment>Sidebar heading above the fastest results.</extracomment>
     <source></source><translation>Bästa tider</translation></message>
   <message id="fewest_failed_attempts"><extracomment>Sidebar heading above the results with the fewest failed attempts.</extracomment>
@@ -46,7 +46,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="player_turn"><extracomment>Two players, nothing turned yet. %1: name of the player to move.</extracomment>
     <source></source><translation>%1, det är din tur</translation></message>
   <message id="player_choose_second_card"><extracomment>Two players, one card turned. %1: name of the player to move.</extracomment>
-    <source></source><translation>%1, välj ett andra kort</translation></message>
+    <source></source><translation>%1, välj ett kort till</translation></message>
   <message id="player_found_pair"><extracomment>Two players. %1: name of the player who found a pair. May be the last pair of the game.</extracomment>
     <source></source><translation>%1 hittade ett par!</translation></message>
   <message id="player_starts_round"><extracomment>Two players, a further round begins. %1: name of the player to move; %2: number of the round, from 2.</extracomment>
@@ -256,9 +256,9 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="board_accessible_name"><extracomment>Name of the board.</extracomment>
     <source></source><translation>Kort</translation></message>
   <message id="title_accessible_name"><extracomment>Name of the line above the board, which tells whose turn it is, the round or the result.</extracomment>
-    <source></source><translation>Spelläge</translation></message>
+    <source></source><translation>Spelstatus</translation></message>
   <message id="tile_hidden"><extracomment>A card whose back shows. %1: row; %2: column, both from 1.</extracomment>
-    <source></source><translation>Rad %1, kolumn %2, baksida upp</translation></message>
+    <source></source><translation>Rad %1, kolumn %2, baksidan upp</translation></message>
   <message id="tile_turned"><extracomment>A turned card. %1: row; %2: column; %3: name of the picture.</extracomment>
     <source></source><translation>Rad %1, kolumn %2, %3</translation></message>
   <message id="tile_found"><extracomment>A card whose pair was found. %1: row; %2: column; %3: name of the picture.</extracomment>
@@ -276,7 +276,7 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
     <source></source><translation>Inget par</translation></message>
   <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
-    <source></source><translation>Vända igen</translation></message>
+    <source></source><translation>Baksidan upp igen</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
     <source></source><translation>Par kvar: %1</translation></message>
   <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
@@ -305,7 +305,7 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="card_skyscraper"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Skyskrapa</translation></message>
   <message id="card_sneaker"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>Gymnastiksko</translation></message>
   <message id="card_umbrella"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Paraply</translation></message>
-  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Varuautomat</translation></message>
+  <message id="card_vending_machine"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Läskautomat</translation></message>
   <message id="card_vr_goggles"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>VR-glasögon</translation></message>
 
   <!-- Pictures of the Kids deck that no deck above has -->
@@ -337,7 +337,7 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="card_bicycle"><extracomment>Picture, 70s.</extracomment><source></source><translation>Cykel</translation></message>
   <message id="card_butterfly"><extracomment>Picture, 70s.</extracomment><source></source><translation>Fjäril</translation></message>
   <message id="card_cactus"><extracomment>Picture, 70s.</extracomment><source></source><translation>Kaktus</translation></message>
-  <message id="card_camper_van"><extracomment>Picture, 70s.</extracomment><source></source><translation>Husbil</translation></message>
+  <message id="card_camper_van"><extracomment>Picture, 70s.</extracomment><source></source><translation>Campingbuss</translation></message>
   <message id="card_daisy"><extracomment>Picture, 70s.</extracomment><source></source><translation>Prästkrage</translation></message>
   <message id="card_disco_ball"><extracomment>Picture, 70s.</extracomment><source></source><translation>Discokula</translation></message>
   <message id="card_dove"><extracomment>Picture, 70s.</extracomment><source></source><translation>Duva</translation></message>
@@ -370,7 +370,7 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="card_home_computer"><extracomment>Picture, 80s.</extracomment><source></source><translation>Dator</translation></message>
   <message id="card_ice_pop"><extracomment>Picture, 80s.</extracomment><source></source><translation>Isglass</translation></message>
   <message id="card_instant_camera"><extracomment>Picture, 80s.</extracomment><source></source><translation>Kamera</translation></message>
-  <message id="card_joystick"><extracomment>Picture, 80s.</extracomment><source></source><translation>Styrspak</translation></message>
+  <message id="card_joystick"><extracomment>Picture, 80s.</extracomment><source></source><translation>Joystick</translation></message>
   <message id="card_lightning_bolt"><extracomment>Picture, 80s.</extracomment><source></source><translation>Blixt</translation></message>
   <message id="card_mobile_phone"><extracomment>Picture, 80s.</extracomment><source></source><translation>Mobiltelefon</translation></message>
   <message id="card_palm_tree"><extracomment>Picture, 80s.</extracomment><source></source><translation>Palm</translation></message>
@@ -404,5 +404,17 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>m</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>I</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Hitta par</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Vänd kort och hitta paren, ensam eller två</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>par;kort;minne;koncentration;barn;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Vänd två kort i taget, kom ihåg var bilderna ligger och hitta paren: ensam mot klockan eller två spelare i tur och ordning.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Det finns fyra kortlekar med tecknade bilder, sex spelplaner från 4 × 3 till 8 × 5 och så många omgångar du vill. Även dina egna foton kan bli en kortlek; de lämnar aldrig datorn. De bästa resultaten står bredvid spelplanen. Hela spelet kan spelas med mus, med tangentbord eller med skärmläsare.</translation></message>
 </context>
 </TS>

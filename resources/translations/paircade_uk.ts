@@ -30,7 +30,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="reset_highscores"><extracomment>Sidebar button; removes all stored results.</extracomment>
     <source></source><translation>Стерти рекорди</translation></message>
   <message id="open_highscores_html"><extracomment>Sidebar button; opens the highscore page in the web browser.</extracomment>
-    <source></source><translation>Рекорди у браузері</translation></message>
+    <source></source><translation>Рекорди в браузері</translation></message>
   <message id="best_times"><extracomment>Sidebar heading above the fastest results.</extracomment>
     <source></source><translation>Найкращий час</translation></message>
   <message id="fewest_failed_attempts"><extracomment>Sidebar heading above the results with the fewest failed attempts.</extracomment>
@@ -56,9 +56,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>Чудово, %1! %2 · Промахи: %3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1 перемагає %2–%3!</translation></message>
+    <source></source><translation>%1 перемагає %2:%3!</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>Нічия: %1–%2</translation></message>
+    <source></source><translation>Нічия %1:%2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
@@ -180,7 +180,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="menu_end_game"><extracomment>Game menu; ends the running game.</extracomment>
     <source></source><translation>Завершити гру</translation></message>
   <message id="menu_open_highscores_html"><extracomment>Game menu; as open_highscores_html.</extracomment>
-    <source></source><translation>Рекорди у браузері</translation></message>
+    <source></source><translation>Рекорди в браузері</translation></message>
   <message id="menu_restore_highscores"><extracomment>Game menu; brings back what a reset removed.</extracomment>
     <source></source><translation>Відновити рекорди</translation></message>
   <message id="menu_preferences"><extracomment>Game menu; opens the preferences.</extracomment>
@@ -204,7 +204,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
 Стрілки: рух полем
 Home, End: перша й остання картка в ряду
 Ctrl+Home, Ctrl+End: перша й остання картка на полі
-Пробіл, Enter: перегорнути картку
+Пробіл, Enter: перевернути картку
 Alt і підкреслена літера: цей елемент або меню
 F1: програма читання з екрана оголосить час і рахунок
 Ctrl+N: нова гра
@@ -214,7 +214,7 @@ Ctrl+Q: вийти</translation></message>
   <message id="about_text"><extracomment>About the program. %1: version number.</extracomment>
     <source></source><translation>Paircade %1
 
-Гра для одного або двох: перегортайте картки та знаходьте пари.
+Гра для одного або двох: перевертайте картки та знаходьте пари.
 
 Програма: GPL-3.0-or-later
 Малюнки та звуки: CC-BY-SA-4.0</translation></message>
@@ -295,7 +295,7 @@ Ctrl+Q: вийти</translation></message>
   <message id="card_microchip"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Мікрочип</translation></message>
   <message id="card_motorcycle"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Мотоцикл</translation></message>
   <message id="card_noodle_bowl"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Миска локшини</translation></message>
-  <message id="card_padlock"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Замок</translation></message>
+  <message id="card_padlock"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Навісний замок</translation></message>
   <message id="card_palm"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Пальма</translation></message>
   <message id="card_rain_boots"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Гумові чоботи</translation></message>
   <message id="card_robot"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>Робот</translation></message>
@@ -339,7 +339,7 @@ Ctrl+Q: вийти</translation></message>
   <message id="card_cactus"><extracomment>Picture, 70s.</extracomment><source></source><translation>Кактус</translation></message>
   <message id="card_camper_van"><extracomment>Picture, 70s.</extracomment><source></source><translation>Кемпер</translation></message>
   <message id="card_daisy"><extracomment>Picture, 70s.</extracomment><source></source><translation>Ромашка</translation></message>
-  <message id="card_disco_ball"><extracomment>Picture, 70s.</extracomment><source></source><translation>Диско-куля</translation></message>
+  <message id="card_disco_ball"><extracomment>Picture, 70s.</extracomment><source></source><translation>Дискокуля</translation></message>
   <message id="card_dove"><extracomment>Picture, 70s.</extracomment><source></source><translation>Голуб</translation></message>
   <message id="card_egg_chair"><extracomment>Picture, 70s.</extracomment><source></source><translation>Крісло-куля</translation></message>
   <message id="card_flared_trousers"><extracomment>Picture, 70s.</extracomment><source></source><translation>Штани кльош</translation></message>
@@ -404,5 +404,17 @@ Ctrl+Q: вийти</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>У</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>В</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>Б</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>Гра в пари</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>Перегортайте картки та знаходьте пари самостійно чи вдвох</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>пари;картки;пам’ять;увага;діти;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>Перегортайте по дві картки, запам’ятовуйте, де лежать малюнки, і знаходьте пари: самостійно на час або вдвох по черзі.</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>Є чотири колоди з малюнками, шість полів від 4 × 3 до 8 × 5 і стільки раундів, скільки забажаєте. Колодою можуть стати й ваші власні фотографії; вони ніколи не залишають комп’ютер. Найкращі результати видно поруч із полем. У всю гру можна грати мишею, з клавіатури або з програмою читання з екрана.</translation></message>
 </context>
 </TS>

@@ -18,7 +18,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="player_two"><extracomment>Placeholder of the second versus field; stands in for the second player's name.</extracomment>
     <source></source><translation>玩家 2</translation></message>
   <message id="unknown_player"><extracomment>Name stored with a one-player result that has none.</extracomment>
-    <source></source><translation>未署名</translation></message>
+    <source></source><translation>匿名</translation></message>
   <message id="start_game"><extracomment>Button of the one-player form.</extracomment>
     <source></source><translation>开始游戏</translation></message>
   <message id="start_versus_game"><extracomment>Button of the two-player form.</extracomment>
@@ -30,13 +30,13 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="reset_highscores"><extracomment>Sidebar button; removes all stored results.</extracomment>
     <source></source><translation>清空排行榜</translation></message>
   <message id="open_highscores_html"><extracomment>Sidebar button; opens the highscore page in the web browser.</extracomment>
-    <source></source><translation>在浏览器中查看</translation></message>
+    <source></source><translation>在浏览器中查看排行榜</translation></message>
   <message id="best_times"><extracomment>Sidebar heading above the fastest results.</extracomment>
     <source></source><translation>最短用时</translation></message>
   <message id="fewest_failed_attempts"><extracomment>Sidebar heading above the results with the fewest failed attempts.</extracomment>
     <source></source><translation>最少失误</translation></message>
   <message id="time_label"><extracomment>Sidebar, below the logo. %1: time as minutes and seconds, 01:07.</extracomment>
-    <source></source><translation>时间：%1</translation></message>
+    <source></source><translation>用时：%1</translation></message>
   <message id="failed_attempts_label"><extracomment>Sidebar, below the time. %1: number of failed attempts, from 0.</extracomment>
     <source></source><translation>失误：%1</translation></message>
 
@@ -56,19 +56,19 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
     <source></source><translation>%1，干得漂亮！%2 · 失误：%3</translation></message>
   <message id="player_wins_score"><extracomment>Two players. %1: winner's name; %2: winner's pairs; %3: loser's pairs, from 0.</extracomment>
-    <source></source><translation>%1获胜，%2–%3！</translation></message>
+    <source></source><translation>%1获胜，%2 比 %3！</translation></message>
   <message id="draw_score"><extracomment>Two players. %1 and %2: pairs of the first and of the second player, equal.</extracomment>
-    <source></source><translation>平局：%1–%2</translation></message>
+    <source></source><translation>平局，%1 比 %2</translation></message>
 
   <!-- Messages -->
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>确定</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>这副牌的图片太少。需要 %1 张（第 %2 轮）。请在首选项中选择别的牌组或更小的牌面布局。</translation></message>
+    <source></source><translation>这副牌的图片太少。需要 %1 张（第 %2 轮）。请在首选项中选择别的牌组或更小的布局。</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
-    <source></source><translation>照片不够一轮使用。需要 %1 张。请添加照片，或在首选项中选择别的牌组或更小的牌面布局。</translation></message>
+    <source></source><translation>照片不够一轮使用。需要 %1 张。请添加照片，或在首选项中选择别的牌组或更小的布局。</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
-    <source></source><translation>这个相册的照片不够一轮使用。需要 %1 张。请向相册文件夹添加照片，或在首选项中选择别的牌组或更小的牌面布局。</translation></message>
+    <source></source><translation>这个相册的照片不够一轮使用。需要 %1 张。请向相册文件夹添加照片，或在首选项中选择别的牌组或更小的布局。</translation></message>
   <message id="iphoto_access_denied"><extracomment>Message, first line: a photo deck is chosen, but access to the photos is not allowed.</extracomment>
     <source></source><translation>Paircade 无权使用照片</translation></message>
   <message id="iphoto_access_denied_info"><extracomment>Message, below iphoto_access_denied. The quoted word is the caption in the preferences.</extracomment>
@@ -102,7 +102,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_rounds"><extracomment>Caption before the number of rounds.</extracomment>
     <source></source><translation>轮数：</translation></message>
   <message id="preferences_card_layout"><extracomment>Caption before the number of the card layout.</extracomment>
-    <source></source><translation>牌面布局：</translation></message>
+    <source></source><translation>纸牌布局：</translation></message>
   <message id="preferences_locked"><extracomment>Why the numbers of rounds and of the layout cannot be changed while a game runs.</extracomment>
     <source></source><translation>游戏结束后才能更改。</translation></message>
   <message id="preferences_found_pairs"><extracomment>Caption before preferences_remove_match.</extracomment>
@@ -150,13 +150,13 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
     <source></source><translation>Paircade 排行榜</translation></message>
   <message id="highscores_html_subtitle"><extracomment>Below the heading. %1: internal number, left out on purpose; %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
-    <source></source><translation>所有已保存的成绩。当前设置：牌面布局 %2/6，轮数 %3。</translation></message>
+    <source></source><translation>所有已保存的成绩。当前设置：布局 %2/6，轮数 %3。</translation></message>
   <message id="highscores_html_generated"><extracomment>Below the subtitle. %1: date and time of the page.</extracomment>
     <source></source><translation>生成时间：%1</translation></message>
   <message id="highscores_html_player"><extracomment>Column heading: one name, or two with vs between them.</extracomment>
     <source></source><translation>玩家</translation></message>
   <message id="highscores_html_time"><extracomment>Column heading.</extracomment>
-    <source></source><translation>时间</translation></message>
+    <source></source><translation>用时</translation></message>
   <message id="highscores_html_failures"><extracomment>Column heading: failed attempts of one player, or pairs of two players, 3 : 5.</extracomment>
     <source></source><translation>失误／比分</translation></message>
   <message id="highscores_html_cards"><extracomment>Column heading: columns and rows of the board, 4x3.</extracomment>
@@ -276,7 +276,7 @@ Ctrl+Q：退出</translation></message>
   <message id="said_no_pair"><extracomment>The second card turned makes no pair; its name was said just before.</extracomment>
     <source></source><translation>不是一对</translation></message>
   <message id="said_back"><extracomment>Both cards that made no pair are turned back.</extracomment>
-    <source></source><translation>已翻回</translation></message>
+    <source></source><translation>已翻回背面</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
     <source></source><translation>剩余对数：%1</translation></message>
   <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
@@ -289,14 +289,14 @@ Ctrl+Q：退出</translation></message>
   <message id="card_eye"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>眼睛</translation></message>
   <message id="card_globe"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>地球仪</translation></message>
   <message id="card_headphones"><extracomment>Picture, Cyberpunk and 80s.</extracomment><source></source><translation>耳机</translation></message>
-  <message id="card_heart"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>心</translation></message>
+  <message id="card_heart"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>爱心</translation></message>
   <message id="card_hover_car"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>飞行汽车</translation></message>
   <message id="card_jellyfish"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>水母</translation></message>
   <message id="card_microchip"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>芯片</translation></message>
   <message id="card_motorcycle"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>摩托车</translation></message>
   <message id="card_noodle_bowl"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>汤面</translation></message>
   <message id="card_padlock"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>挂锁</translation></message>
-  <message id="card_palm"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>棕榈树</translation></message>
+  <message id="card_palm"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>椰子树</translation></message>
   <message id="card_rain_boots"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>雨靴</translation></message>
   <message id="card_robot"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>机器人</translation></message>
   <message id="card_robot_dog"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>机器狗</translation></message>
@@ -373,7 +373,7 @@ Ctrl+Q：退出</translation></message>
   <message id="card_joystick"><extracomment>Picture, 80s.</extracomment><source></source><translation>摇杆</translation></message>
   <message id="card_lightning_bolt"><extracomment>Picture, 80s.</extracomment><source></source><translation>闪电</translation></message>
   <message id="card_mobile_phone"><extracomment>Picture, 80s.</extracomment><source></source><translation>手机</translation></message>
-  <message id="card_palm_tree"><extracomment>Picture, 80s.</extracomment><source></source><translation>棕榈树</translation></message>
+  <message id="card_palm_tree"><extracomment>Picture, 80s.</extracomment><source></source><translation>椰子树</translation></message>
   <message id="card_popcorn"><extracomment>Picture, 80s.</extracomment><source></source><translation>爆米花</translation></message>
   <message id="card_skateboard"><extracomment>Picture, 80s.</extracomment><source></source><translation>滑板</translation></message>
   <message id="card_sports_car"><extracomment>Picture, 80s.</extracomment><source></source><translation>跑车</translation></message>
@@ -404,5 +404,17 @@ Ctrl+Q：退出</translation></message>
   <message id="mnemonic_photo_question_all"><extracomment>Letter underlined in photo_question_all.</extracomment><source></source><translation>A</translation></message>
   <message id="mnemonic_photo_question_folder"><extracomment>Letter underlined in photo_question_folder.</extracomment><source></source><translation>F</translation></message>
   <message id="mnemonic_photo_question_none"><extracomment>Letter underlined in photo_question_none.</extracomment><source></source><translation>N</translation></message>
+
+  <!-- The desktop’s menu and the software centre: the build puts these into files of theirs -->
+  <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
+    <source></source><translation>配对游戏</translation></message>
+  <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
+    <source></source><translation>翻开纸牌，找出成对的图片，一人或两人皆可</translation></message>
+  <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
+    <source></source><translation>配对;纸牌;记忆;翻牌;儿童;</translation></message>
+  <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
+    <source></source><translation>每次翻开两张牌，记住图片的位置，找出成对的图片：一个人挑战时间，或两个人轮流进行。</translation></message>
+  <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
+    <source></source><translation>共有四副手绘牌组、从 4 × 3 到 8 × 5 的六种牌面，轮数任选。您自己的照片也可以作为牌组，照片绝不会离开这台电脑。最佳成绩显示在牌面旁边。全程可用鼠标、键盘或屏幕阅读器操作。</translation></message>
 </context>
 </TS>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/termination.h"
 
+#include "platform/photo_helper.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QSocketNotifier>
@@ -32,6 +34,7 @@ Termination::Termination()
     std::signal(SIGPIPE, SIG_IGN);
     if (pipe2(wakeUp.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         return;
+    PhotoHelper::interruptWhenReadable(wakeUp[0]);
     auto* const notifier = new QSocketNotifier(wakeUp[0], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [] {
         char byte = 0;
@@ -46,6 +49,7 @@ Termination::~Termination()
 {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         std::signal(signal, SIG_DFL);
+    PhotoHelper::interruptWhenReadable(-1);
     for (int& end : wakeUp) {
         close(end);
         end = -1;

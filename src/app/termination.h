@@ -6,7 +6,7 @@
 
 /// Ends the program's event loop, as choosing Quit does, when the system asks:
 /// at SIGTERM, SIGINT, SIGHUP, and at the end of the session. The window gets no
-/// close event, so that nothing is announced.
+/// close event, so that nothing is announced. Photos under way are given up.
 ///
 /// SIGPIPE is ignored: whoever reads the log may go away.
 class Termination : public QObject {

@@ -8,12 +8,12 @@
 #include <algorithm>
 #include <utility>
 
-std::optional<PhotoAlbum> albumTitled(const std::vector<PhotoAlbum>& albums, const QString& title)
+std::optional<PhotoAlbum> albumTitled(const PhotoAlbums& albums, const QString& title)
 {
-    const auto found = std::ranges::find_if(albums, [&title](const PhotoAlbum& album) {
+    const auto found = std::ranges::find_if(albums.list, [&title](const PhotoAlbum& album) {
         return album.localizedTitle && trimmedText(*album.localizedTitle) == title;
     });
-    return found == albums.end() ? std::nullopt : std::optional(*found);
+    return found == albums.list.end() ? std::nullopt : std::optional(*found);
 }
 
 CardPictures loadPhotoDeck(PhotoFetch& fetch, PhotoAssets assets, std::size_t most)

@@ -9,7 +9,7 @@
 
 /// The first of `albums` with the title `title`, which is compared with theirs
 /// trimmed; case matters. None if there is none.
-[[nodiscard]] std::optional<PhotoAlbum> albumTitled(const std::vector<PhotoAlbum>& albums,
+[[nodiscard]] std::optional<PhotoAlbum> albumTitled(const PhotoAlbums& albums,
                                                     const QString& title);
 
 /// Up to `most` pictures, drawn from `assets` with equal chances; only those drawn

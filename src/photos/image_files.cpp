@@ -16,6 +16,9 @@ namespace {
 // Three bytes a pixel and sixteen-bit channels are still within the limit of memory.
 constexpr int mostMegabytes = 400;
 
+// The largest of cameras have a fifth of this.
+constexpr qint64 longestJpeg = 256'000'000; // bytes
+
 QByteArray readerName(FileKind kind)
 {
     switch (kind) {
@@ -43,7 +46,7 @@ bool isWholeJpeg(QFile& file)
     constexpr char mark = '\xff';
     constexpr char startOfScan = '\xda';
     file.seek(2);
-    while (true) {
+    while (file.pos() < longestJpeg) {
         const QByteArray header = file.read(4);
         if (header.size() < 4 || header[0] != mark)
             return false;
@@ -59,7 +62,7 @@ bool isWholeJpeg(QFile& file)
     }
     constexpr qint64 block = 65'536;
     QByteArray data;
-    while (true) {
+    while (file.pos() < longestJpeg) {
         const QByteArray more = file.read(block);
         if (more.isEmpty())
             return false;
@@ -68,6 +71,7 @@ bool isWholeJpeg(QFile& file)
         if (data.contains("\xff\xd9"))
             return true;
     }
+    return false;
 }
 
 /// The size to decode to: the smaller side as long as a card's picture, and never

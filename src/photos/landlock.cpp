@@ -80,8 +80,11 @@ bool confineFiles(const QByteArray& library)
     // Decoders are loaded, and their libraries with them, when they are needed first.
     QList<QByteArray> readable = {library,     "/usr", "/lib", "/lib64", "/etc/ld.so.cache",
                                   "/proc/self"};
+    // The helper may have its libraries beside it, outside /usr.
     for (const QString& folder :
-         {QCoreApplication::applicationDirPath(), QLibraryInfo::path(QLibraryInfo::PluginsPath),
+         {QCoreApplication::applicationDirPath(),
+          QCoreApplication::applicationDirPath() + QStringLiteral("/../../lib"),
+          QLibraryInfo::path(QLibraryInfo::PluginsPath),
           QLibraryInfo::path(QLibraryInfo::LibrariesPath)})
         readable << QFile::encodeName(folder);
     for (const QByteArray& path : readable)

@@ -95,7 +95,8 @@ Descriptor openBelow(int root, const QByteArray& path)
         return opened;
     const QList<QByteArray> names = path.split('/');
     for (qsizetype i = 0; i < names.size() && opened.isOpen(); ++i) {
-        if (names[i].isEmpty() || names[i] == "." || names[i] == "..")
+        // The system would take a name for ending at a NUL.
+        if (names[i].isEmpty() || names[i] == "." || names[i] == ".." || names[i].contains('\0'))
             return Descriptor();
         const int folderToo = i + 1 < names.size() ? O_DIRECTORY : 0;
         opened = Descriptor(::openat(opened.get(), names[i].constData(), readOnly | folderToo));

@@ -8,7 +8,7 @@
 #include <functional>
 
 /// Opens what is found at `path` below the folder `root`, for reading. A link
-/// anywhere in the path, "..", and whatever is neither a folder nor a plain file
+/// anywhere in the path, "..", a NUL, and whatever is neither a folder nor a plain file
 /// are refused: between listing and reading, a folder may have become a link to
 /// elsewhere and a picture a pipe, at which reading would wait. An empty path is
 /// the folder itself.

@@ -3,6 +3,7 @@
 #include "platform/photo_fetch.h"
 
 #include "platform/collation.h"
+#include "platform/within_memory.h"
 
 #include <QCursor>
 #include <QFile>
@@ -19,6 +20,11 @@ namespace {
 // More than any library holds, and still no burden: a helper gone astray could go
 // on telling until its time is over.
 constexpr qsizetype mostPathBytes = 256'000'000;
+constexpr std::size_t mostPaths = 1'000'000;
+constexpr std::size_t mostAlbums = 100'000;
+
+// One may be a heavy picture on a busy machine.
+constexpr int mostStalls = 2;
 
 } // namespace
 
@@ -54,30 +60,45 @@ PhotoFetch::~PhotoFetch() = default;
 
 void PhotoFetch::ask(Kind request, QByteArrayView content)
 {
-    const bool mayStart = !m_library.isEmpty() && !m_isGivenUp && !m_deadline.hasExpired();
+    const bool mayStart = !m_library.isEmpty() && m_stalls < mostStalls && !m_isInterrupted &&
+                          !m_deadline.hasExpired();
     if (mayStart && (!m_helper || m_helper->state() != PhotoHelper::State::running))
         m_helper = std::make_unique<PhotoHelper>(m_program, m_library, m_patience.silence);
     if (m_helper)
         m_helper->send(request, content);
 }
 
-void PhotoFetch::list(Kind request, QByteArrayView content,
-                      const std::function<void(const Frame&)>& take)
+std::optional<Frame> PhotoFetch::receive()
+{
+    std::optional<Frame> reply;
+    if (m_helper && !withinMemory([&] { reply = m_helper->receive(m_deadline); }))
+        m_helper.reset();
+    m_isInterrupted =
+        m_isInterrupted || (m_helper && m_helper->state() == PhotoHelper::State::interrupted);
+    return reply;
+}
+
+bool PhotoFetch::list(Kind request, QByteArrayView content,
+                      const std::function<bool(const Frame&)>& take)
 {
     ask(request, content);
     qsizetype total = 0;
-    while (m_helper && total < mostPathBytes) {
-        const std::optional<Frame> reply = m_helper->receive(m_deadline);
+    bool isSound = true;
+    while (m_helper && isSound && total < mostPathBytes) {
+        const std::optional<Frame> reply = receive();
         if (!reply || reply->kind == Kind::done)
-            return;
+            return reply.has_value();
         total += reply->content.size();
-        take(*reply);
+        const bool isKept =
+            withinMemory([&] { isSound = reply->kind == Kind::working || take(*reply); });
+        isSound = isSound && isKept;
     }
     // Whatever else it has to say belongs to this list.
     m_helper.reset();
+    return m_library.isEmpty();
 }
 
-std::vector<PhotoAlbum> PhotoFetch::albums(Counted counted)
+PhotoAlbums PhotoFetch::albums(Counted counted)
 {
     struct Listed {
         QString title;
@@ -86,18 +107,23 @@ std::vector<PhotoAlbum> PhotoFetch::albums(Counted counted)
     };
     std::vector<Listed> listed;
     const Kind request = counted == Counted::no ? Kind::albums : Kind::countedAlbums;
-    list(request, {}, [&listed](const Frame& reply) {
+    PhotoAlbums albums;
+    albums.isComplete = list(request, {}, [&listed](const Frame& reply) {
         const qsizetype titleEnd = reply.content.indexOf('\0', 1);
-        if (reply.kind == Kind::album && titleEnd > 0)
-            listed.push_back({QFile::decodeName(reply.content.mid(1, titleEnd - 1)),
-                              reply.content.front() != '\0' ? 1 : 0,
-                              reply.content.mid(titleEnd + 1)});
+        if (reply.kind != Kind::album || titleEnd <= 1 || titleEnd + 1 == reply.content.size() ||
+            listed.size() == mostAlbums)
+            return false;
+        listed.push_back({QFile::decodeName(reply.content.mid(1, titleEnd - 1)),
+                          reply.content.front() != '\0' ? 1 : 0, reply.content.mid(titleEnd + 1)});
+        return true;
     });
-    std::ranges::stable_sort(listed, sortsBefore, &Listed::title);
-    std::vector<PhotoAlbum> albums;
-    albums.reserve(listed.size());
-    for (const Listed& album : listed)
-        albums.push_back({album.title, album.count, album.folder});
+    const bool isSorted = withinMemory([&] {
+        std::ranges::stable_sort(listed, sortsBefore, &Listed::title);
+        albums.list.reserve(listed.size());
+        for (const Listed& album : listed)
+            albums.list.push_back({album.title, album.count, album.folder});
+    });
+    albums.isComplete = albums.isComplete && isSorted;
     return albums;
 }
 
@@ -106,10 +132,14 @@ PhotoAssets PhotoFetch::assetList(Kind request, QByteArrayView content)
     PhotoAssets assets;
     list(request, content, [&assets](const Frame& reply) {
         if (reply.kind != Kind::paths)
-            return;
-        for (qsizetype begin = 0, end = 0; (end = reply.content.indexOf('\0', begin)) >= 0;
-             begin = end + 1)
+            return false;
+        qsizetype begin = 0;
+        for (qsizetype end = 0; (end = reply.content.indexOf('\0', begin)) >= 0; begin = end + 1) {
+            if (end == begin || assets.size() == mostPaths)
+                return false;
             assets.push_back(reply.content.mid(begin, end - begin));
+        }
+        return begin > 0 && begin == reply.content.size();
     });
     return assets;
 }
@@ -127,8 +157,9 @@ PhotoAssets PhotoFetch::assets(const PhotoAlbum& album)
 QImage PhotoFetch::image(const PhotoAsset& asset)
 {
     ask(Kind::picture, asset);
-    const std::optional<Frame> reply = m_helper ? m_helper->receive(m_deadline) : std::nullopt;
-    m_isGivenUp = m_isGivenUp || (m_helper && m_helper->state() == PhotoHelper::State::stalled);
+    const std::optional<Frame> reply = receive();
+    if (m_helper && m_helper->state() == PhotoHelper::State::stalled)
+        ++m_stalls;
     if (!reply || (reply->kind == Kind::pixels && reply->content.isEmpty()))
         return {};
     if (reply->kind != Kind::pixels || reply->content.size() != 1 + PhotoMessages::pictureBytes) {

@@ -18,6 +18,11 @@ struct PhotoAlbum {
     QByteArray folder{};                     ///< Its path in the library, in the system's bytes.
 };
 
+struct PhotoAlbums {
+    std::vector<PhotoAlbum> list{};
+    bool isComplete = true; ///< Otherwise there may be more than could be listed.
+};
+
 /// A picture or film: its path in the library, in the system's bytes.
 using PhotoAsset = QByteArray;
 using PhotoAssets = std::vector<PhotoAsset>;
@@ -27,8 +32,9 @@ using PhotoAssets = std::vector<PhotoAsset>;
 /// that the game is busy.
 ///
 /// Nothing fails loudly: what cannot be had is missing in the answer. A helper that
-/// crashes costs the picture in hand; one that stalls is given up, and where that
-/// was in a list, what it had told counts, and another reads the pictures.
+/// crashes or stalls is given up, and another goes on: that costs the picture in
+/// hand, or what is missing in a list. Pictures are no longer read after the second
+/// stall over one, and nothing once the game is to end.
 class PhotoFetch {
 public:
     /// For the library in the folder `library`, read by the program `helper`. An
@@ -42,7 +48,7 @@ public:
 
     /// The albums in the order of their titles. Those that are not counted have a
     /// count of 1.
-    [[nodiscard]] std::vector<PhotoAlbum> albums(Counted counted = Counted::no);
+    [[nodiscard]] PhotoAlbums albums(Counted counted = Counted::no);
 
     /// Every picture of the library, without films, in the order of their paths.
     [[nodiscard]] PhotoAssets images();
@@ -57,9 +63,12 @@ private:
     class BusyPointer;
 
     void ask(PhotoMessages::Kind request, QByteArrayView content = {});
-    /// Asks, and calls `take` with each reply up to the one that ends the list.
-    void list(PhotoMessages::Kind request, QByteArrayView content,
-              const std::function<void(const PhotoMessages::Frame&)>& take);
+    /// The next reply; none once there is no helper.
+    [[nodiscard]] std::optional<PhotoMessages::Frame> receive();
+    /// Asks, and calls `take` with each reply up to the one that ends the list; false
+    /// where that does not come. `take` says whether the reply makes sense.
+    bool list(PhotoMessages::Kind request, QByteArrayView content,
+              const std::function<bool(const PhotoMessages::Frame&)>& take);
     [[nodiscard]] PhotoAssets assetList(PhotoMessages::Kind request, QByteArrayView content);
 
     QString m_program;
@@ -68,5 +77,6 @@ private:
     QDeadlineTimer m_deadline;
     std::unique_ptr<PhotoHelper> m_helper{};
     std::unique_ptr<BusyPointer> m_pointer;
-    bool m_isGivenUp = false; ///< It stalled over a picture.
+    int m_stalls = 0; ///< Over pictures.
+    bool m_isInterrupted = false;
 };

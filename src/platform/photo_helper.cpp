@@ -20,6 +20,8 @@ namespace {
 // Fewer rounds of the pipe for each picture.
 constexpr int pipeBytes = 1 << 20;
 
+int interruption = -1;
+
 /// Takes leave of ended processes. One that waits for a dead file system does not
 /// end at once; it is asked again whenever the next one is ended.
 void reap(pid_t process)
@@ -45,6 +47,8 @@ pid_t spawned(const QString& program, const QByteArray& library, int requests, i
     ::posix_spawn_file_actions_adddup2(&files, replies, STDOUT_FILENO);
     // Decoders complain there of what they read, which may be anything.
     ::posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    // Whoever started the game may have left it something open.
+    ::posix_spawn_file_actions_addclosefrom_np(&files, STDERR_FILENO + 1);
     posix_spawnattr_t attributes;
     ::posix_spawnattr_init(&attributes);
     sigset_t all;
@@ -98,6 +102,11 @@ PhotoHelper::~PhotoHelper()
     end(State::ended);
 }
 
+void PhotoHelper::interruptWhenReadable(int descriptor)
+{
+    interruption = descriptor;
+}
+
 void PhotoHelper::end(State state)
 {
     if (m_state != State::running)
@@ -120,13 +129,15 @@ void PhotoHelper::send(PhotoMessages::Kind request, QByteArrayView content)
 bool PhotoHelper::takeBytes()
 {
     std::array<char, 65'536> bytes; // NOLINT: filled by read()
-    while (true) {
+    // Two pictures, then the time is looked at again: it may write as fast as this reads.
+    for (int reads = 0; reads < 32; ++reads) {
         const ssize_t length = ::read(m_replies.get(), bytes.data(), bytes.size());
         if (length > 0)
             m_reader.append(QByteArrayView(bytes.data(), length));
         else if (length == 0 || errno != EINTR)
             return length < 0 && errno == EAGAIN;
     }
+    return true;
 }
 
 std::optional<PhotoMessages::Frame> PhotoHelper::receive(QDeadlineTimer deadline)
@@ -139,13 +150,16 @@ std::optional<PhotoMessages::Frame> PhotoHelper::receive(QDeadlineTimer deadline
             break;
         }
         const QDeadlineTimer silence(m_silence);
-        pollfd replies{m_replies.get(), POLLIN, 0};
+        std::array<pollfd, 2> awaited{{{m_replies.get(), POLLIN, 0}, {interruption, POLLIN, 0}}};
         int ready = 0;
         do
-            ready = ::poll(&replies, 1, int(std::min(silence, deadline).remainingTime()));
+            ready = ::poll(awaited.data(), awaited.size(),
+                           int(std::min(silence, deadline).remainingTime()));
         while (ready < 0 && errno == EINTR);
         if (ready == 0)
             end(State::stalled);
+        else if (awaited[1].revents != 0)
+            end(State::interrupted);
         else if (!takeBytes())
             end(State::ended);
     }

@@ -22,8 +22,9 @@ class PhotoHelper {
 public:
     enum class State {
         running,
-        ended,   ///< It crashed, was ended, or talks nonsense.
-        stalled, ///< It gave no sign for too long, and was ended.
+        ended,       ///< It crashed, was ended, or talks nonsense.
+        stalled,     ///< It gave no sign for too long, and was ended.
+        interrupted, ///< The game is to end, and so it was ended.
     };
 
     /// Starts `program` for the library in the folder `library`. It may show no
@@ -32,6 +33,10 @@ public:
     ~PhotoHelper();
     PhotoHelper(const PhotoHelper&) = delete;
     PhotoHelper& operator=(const PhotoHelper&) = delete;
+
+    /// From when on `descriptor` has something to read, every helper is ended as
+    /// interrupted; -1 for none, as in the beginning.
+    static void interruptWhenReadable(int descriptor);
 
     [[nodiscard]] State state() const { return m_state; }
 
@@ -43,7 +48,7 @@ public:
 
 private:
     void end(State state);
-    /// Takes in what has arrived; false at the end of it.
+    /// Takes in some of what has arrived; false at the end of it.
     bool takeBytes();
 
     std::chrono::seconds m_silence;

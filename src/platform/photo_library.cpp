@@ -10,6 +10,13 @@
 #include <QFileInfo>
 #include <utility>
 
+namespace {
+
+// The preferences list the albums twice when they are opened first.
+constexpr std::chrono::seconds keptIncomplete{5};
+
+} // namespace
+
 PhotoLibrary::PhotoLibrary(PhotoAccessStore& store, AccessPrompt* prompt, QString picturesFolder,
                            QString helperProgram)
     : m_store(store)
@@ -53,9 +60,18 @@ QByteArray PhotoLibrary::readableFolder() const
     }
 }
 
-std::vector<PhotoAlbum> PhotoLibrary::albums() const
+PhotoAlbums PhotoLibrary::albums()
 {
-    return startFetch()->albums(PhotoFetch::Counted::upToOne);
+    const QByteArray folder = readableFolder();
+    if (!m_incompleteUntil.hasExpired() && folder == m_incompleteFolder)
+        return m_incomplete;
+    PhotoAlbums albums = startFetch()->albums(PhotoFetch::Counted::upToOne);
+    if (!albums.isComplete) {
+        m_incomplete = albums;
+        m_incompleteFolder = folder;
+        m_incompleteUntil.setRemainingTime(keptIncomplete);
+    }
+    return albums;
 }
 
 QString PhotoLibrary::limitedTo() const

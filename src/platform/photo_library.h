@@ -5,8 +5,8 @@
 #include "platform/photo_access.h"
 #include "platform/photo_fetch.h"
 
+#include <QDeadlineTimer>
 #include <memory>
-#include <vector>
 
 class AccessPrompt;
 
@@ -35,8 +35,9 @@ public:
     virtual PhotoAuthorization requestAuthorization();
 
     /// The user's albums, in the library's order, counted. Titles may be equal.
-    /// Empty where reading is not allowed. Blocks up to PhotoPatience::round.
-    [[nodiscard]] virtual std::vector<PhotoAlbum> albums() const;
+    /// Empty where reading is not allowed. Blocks up to PhotoPatience::round, but not
+    /// again at once: an incomplete list is given a second time for a few seconds.
+    [[nodiscard]] virtual PhotoAlbums albums();
 
     /// The folder that may be read, in the system's bytes; empty if none.
     [[nodiscard]] QByteArray readableFolder() const;
@@ -52,4 +53,7 @@ private:
     AccessPrompt* m_prompt;
     QString m_picturesFolder;
     QString m_helperProgram;
+    PhotoAlbums m_incomplete{};         ///< The last such list,
+    QByteArray m_incompleteFolder{};    ///< of this library,
+    QDeadlineTimer m_incompleteUntil{}; ///< and how long it is not made anew.
 };

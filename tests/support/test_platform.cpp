@@ -31,6 +31,16 @@ TestPlatform::~TestPlatform()
     usePlatform(nullptr);
 }
 
+QStringList TestPlatform::languages()
+{
+    const QDir folder(ApplicationBundle::ofRunningProgram().resourceFolder().value() +
+                      QStringLiteral("/translations"));
+    QStringList languages = folder.entryList({QStringLiteral("paircade_*.qm")});
+    for (QString& name : languages)
+        name = name.section(u'_', 1).chopped(3);
+    return languages;
+}
+
 void TestPlatform::usePlatformWith(const QString& resourceFolder)
 {
     m_bundle = std::make_unique<ApplicationBundle>(resourceFolder);

@@ -61,7 +61,7 @@ public:
     {
         return status ? *status : PhotoLibrary::authorizationStatus();
     }
-    [[nodiscard]] std::vector<PhotoAlbum> albums() const override
+    [[nodiscard]] PhotoAlbums albums() override
     {
         return status ? content : PhotoLibrary::albums();
     }
@@ -71,7 +71,7 @@ public:
     }
 
     std::optional<PhotoAuthorization> status = PhotoAuthorization::restricted; ///< None: the real.
-    std::vector<PhotoAlbum> content{};
+    PhotoAlbums content{};
     QString folder{};
 };
 
@@ -85,6 +85,9 @@ public:
     /// `alerts` shows the alerts; without one they go to alertLog.
     explicit TestPlatform(Alerts* alerts = nullptr, const QString& language = QStringLiteral("en"));
     ~TestPlatform();
+
+    /// The languages of all catalogues of the build.
+    [[nodiscard]] static QStringList languages();
 
     /// Replaces the resources by those of `resourceFolder`.
     void useResources(const QString& resourceFolder);

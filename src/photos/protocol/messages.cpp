@@ -23,6 +23,13 @@ QByteArray encoded(Kind kind, QByteArrayView content)
     return bytes;
 }
 
+void FrameReader::append(QByteArrayView bytes)
+{
+    m_bytes.remove(0, m_read);
+    m_read = 0;
+    m_bytes.append(bytes);
+}
+
 std::optional<Frame> FrameReader::next()
 {
     if (m_isBroken || m_bytes.size() - m_read < headerBytes)
@@ -36,10 +43,6 @@ std::optional<Frame> FrameReader::next()
         return std::nullopt;
     Frame frame{static_cast<Kind>(*header), m_bytes.mid(m_read + headerBytes, length)};
     m_read += headerBytes + qsizetype{length};
-    if (m_read == m_bytes.size()) {
-        m_bytes.clear();
-        m_read = 0;
-    }
     return frame;
 }
 

@@ -49,7 +49,7 @@ struct Frame {
 /// Puts frames together from bytes as they arrive.
 class FrameReader {
 public:
-    void append(QByteArrayView bytes) { m_bytes.append(bytes); }
+    void append(QByteArrayView bytes);
 
     /// The next frame; none as long as it is not complete.
     [[nodiscard]] std::optional<Frame> next();

@@ -63,11 +63,13 @@ public:
     /// deck it is switched off, in the settings too.
     void updatePaircadeAlbumState();
     /// Fills the deck menu and selects the stored deck; where that is no longer
-    /// offered, "Cyberpunk" is stored instead.
+    /// offered, "Cyberpunk" is stored instead. An album stays on offer as long as it
+    /// may be among those that could not be listed.
     void rebuildCardDeckMenu();
     /// The titles of the user's albums that hold something, sorted for a reader;
     /// equal ones are kept. Never asks for access: without it there are none.
-    [[nodiscard]] QStringList fetchAvailablePhotoAlbums() const;
+    /// `areAll` is set to whether all could be listed.
+    [[nodiscard]] QStringList fetchAvailablePhotoAlbums(bool* areAll = nullptr) const;
     void updateRoundsLabel(std::int64_t count);
     /// The name of the layout `index`; the number itself if there is no such one.
     [[nodiscard]] static QString cardLayoutLabel(std::int64_t index);

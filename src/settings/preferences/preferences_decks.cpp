@@ -42,8 +42,11 @@ void Preferences::rebuildCardDeckMenu()
     const QString current =
         platform().defaults.string(SettingsKeys::CardDeck).value_or(baseCardDecks().front());
     QStringList decks = baseCardDecks();
-    for (const QString& title : fetchAvailablePhotoAlbums())
+    bool areAll = true;
+    for (const QString& title : fetchAvailablePhotoAlbums(&areAll))
         decks << albumPrefix() + title;
+    if (!areAll && current.startsWith(albumPrefix()))
+        decks << current;
     decks.removeDuplicates();
 
     QComboBox& menu = *cardDeck_dropdown();
@@ -66,13 +69,16 @@ void Preferences::rebuildCardDeckMenu()
     showDeck();
 }
 
-QStringList Preferences::fetchAvailablePhotoAlbums() const
+QStringList Preferences::fetchAvailablePhotoAlbums(bool* areAll) const
 {
-    const PhotoLibrary& photos = platform().photos;
+    PhotoLibrary& photos = platform().photos;
     if (!allowsReading(photos.authorizationStatus()))
         return {};
+    const PhotoAlbums albums = photos.albums();
+    if (areAll != nullptr)
+        *areAll = albums.isComplete;
     QStringList titles;
-    for (const PhotoAlbum& album : photos.albums()) {
+    for (const PhotoAlbum& album : albums.list) {
         const QString title = trimmedText(album.localizedTitle.value_or(QString()));
         if (!title.isEmpty() && album.assetCount >= 1)
             titles << title;

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Paircade authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whatever a record holds, it is read back as it was.
+#include "fuzz.h"
+#include "highscores/highscore_file.h"
+#include "records.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+/// As UTF-8 can keep it: without halves of surrogate pairs.
+QString kept(const QString& text)
+{
+    return QString::fromUtf8(text.toUtf8());
+}
+
+auto fieldsOf(const HighscoreEntry& entry)
+{
+    const auto keptIf = [](const std::optional<QString>& text) {
+        return text ? std::optional(kept(*text)) : text;
+    };
+    return std::tuple(entry.id, kept(entry.gameMode), kept(entry.playerName),
+                      keptIf(entry.secondPlayerName), keptIf(entry.winnerName),
+                      entry.elapsedSeconds, entry.failedAttempts, entry.firstPlayerScore,
+                      entry.secondPlayerScore, entry.amountCards, entry.amountRounds);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const HighscoreEntries entries = entriesFrom(Pieces(bytesOf(data, size)));
+    const auto readBack = decodeHighscores(encodeHighscores(entries));
+    require(readBack.has_value(), "what is written can be read");
+    require(std::ranges::equal(*readBack, entries, {}, fieldsOf, fieldsOf),
+            "what is read is what was written");
+    return 0;
+}
