@@ -214,7 +214,7 @@ private Q_SLOTS:
         Game game(30);
         const SmallDisk disk(game.platform.home.path());
         if (!disk.isThere)
-            QSKIP("only root can mount a disk");
+            QSKIP("no disk can be mounted here");
         QDir().mkpath(QFileInfo(settingsFile()).path());
         const qint64 page = ::sysconf(_SC_PAGESIZE);
         int stored = 0;
@@ -295,5 +295,19 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(CrashTest)
+int main(int argc, char* argv[])
+{
+    // Whoever is not root becomes it in a namespace of its own, where disks can be mounted.
+    const auto mapped = [](auto id) { return "0 " + QByteArray::number(id) + " 1"; };
+    const QByteArray users = mapped(::geteuid());
+    const QByteArray groups = mapped(::getegid());
+    if (::geteuid() != 0 && ::unshare(CLONE_NEWUSER) == 0) {
+        writeFile(QStringLiteral("/proc/self/setgroups"), "deny");
+        writeFile(QStringLiteral("/proc/self/uid_map"), users);
+        writeFile(QStringLiteral("/proc/self/gid_map"), groups);
+    }
+    QCoreApplication application(argc, argv);
+    CrashTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "crash_test.moc"

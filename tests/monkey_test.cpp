@@ -211,14 +211,14 @@ private:
     {
         using namespace Qt;
         if (draw(3) == 0)
-            return QKeyCombination(Key(Key_A + draw(26)));
+            return {Key(Key_A + draw(26))};
         static constexpr std::array keys{
             Key_Tab,       Key_Tab,    Key_Tab,    Key_Backtab, Key_Space,  Key_Space,
             Key_Return,    Key_Return, Key_Escape, Key_Escape,  Key_Up,     Key_Down,
             Key_Left,      Key_Right,  Key_Home,   Key_End,     Key_PageUp, Key_Delete,
             Key_Backspace, Key_F1,     Key_F10,    Key_F11,     Key_Alt,    Key_Menu};
         if (draw(4))
-            return QKeyCombination(oneOf(keys));
+            return {oneOf(keys)};
         static constexpr std::array chords{CTRL | Key_N, CTRL | Key_Comma, CTRL | Key_Comma,
                                            ALT | Key_G,  CTRL | Key_A,     CTRL | Key_X,
                                            CTRL | Key_V, ALT | Key_V,      ALT | Key_H};

@@ -171,7 +171,7 @@ private:
                     order.push_back(j);
             }
         }
-        std::size_t place = std::size_t(draw(int(order.size())));
+        auto place = std::size_t(draw(int(order.size())));
         for (std::size_t i = 0; i < order.size() && cards[order[place]].isFaceUp && draw(8); ++i)
             place = (place + 1) % order.size();
         return cards[order[place]];
