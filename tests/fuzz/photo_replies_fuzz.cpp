@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(image.isNull() || (image.width() == pictureEdge && image.height() == pictureEdge &&
                                image.sizeInBytes() == pictureBytes),
             "a picture has its size");
-    const std::vector<PhotoAlbum> albums = fetch.albums(PhotoFetch::Counted::upToOne);
+    const std::vector<PhotoAlbum> albums = fetch.albums(PhotoFetch::Counted::upToOne).list;
     require(std::ranges::all_of(albums,
                                 [](const PhotoAlbum& album) {
                                     return album.localizedTitle.has_value() &&
