@@ -111,7 +111,7 @@ private Q_SLOTS:
                                          u"a"_s, true);
             QTest::qWait(150); // a letter's button is shown pressed for a moment
             QCOMPARE(QApplication::activeModalWidget(), &dialog);
-            window.repeatOn(dialog, Qt::Key_Return);
+            GameWindow::repeatOn(dialog, Qt::Key_Return);
             QCOMPARE(QApplication::activeModalWidget(), &dialog);
             QCOMPARE(dialog.focusWidget()->objectName(), u"photo_question_folder"_s);
             QWindow* const handle = dialog.windowHandle();
@@ -123,7 +123,7 @@ private Q_SLOTS:
                 dialog.close();
             } else {
                 whenShown(folderDialog, [&](QWidget& choice) {
-                    window.repeatOn(choice, Qt::Key_Return);
+                    GameWindow::repeatOn(choice, Qt::Key_Return);
                     QCOMPARE(QApplication::activeModalWidget(), &choice);
                     if (way == u"folder"_s) {
                         choice.findChild<QLineEdit*>(u"fileNameEdit"_s)

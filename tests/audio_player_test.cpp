@@ -30,7 +30,8 @@ constexpr int flatPeak = 16000;
 constexpr int tonePeak = 8000;
 constexpr double toneSeconds = 0.3;
 constexpr double flatSeconds = 1.2;
-constexpr auto flatWhole = std::ptrdiff_t((flatSeconds - 0.02) * rate + 0.5) + 1; ///< at its peak
+constexpr auto flatWhole =
+    std::ptrdiff_t(qRound64((flatSeconds - 0.02) * rate)) + 1; ///< at its peak
 constexpr std::chrono::milliseconds hasty{500};
 
 /// What the child says of a performance, and what the disk driver wrote.

@@ -10,7 +10,6 @@
 #include <QTest>
 #include <QXmlStreamReader>
 #include <map>
-#include <ranges>
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -117,8 +116,8 @@ private Q_SLOTS:
 
     void placesAreThoseOfTheArguments()
     {
-        for (const auto& language : m_texts | std::views::keys) {
-            for (const auto& [id, text] : m_forms[language]) {
+        for (const auto& [language, forms] : m_forms) {
+            for (const auto& [id, text] : forms) {
                 const auto known = catalogue.find(id);
                 const QString expected =
                     known == catalogue.end() ? placesIn(m_texts[u"en"_s][id]) : known->second;

@@ -338,7 +338,7 @@ private:
     {
         const Window shown = window(deck, 4, shortNames, [status](TestPlatform& platform) {
             platform.photos.status = status;
-            platform.photos.content = {{u"Holidays in Norway"_s, 40}, {u"Grandmother"_s, 12}};
+            platform.photos.content.list = {{u"Holidays in Norway"_s, 40}, {u"Grandmother"_s, 12}};
             platform.photos.folder = u"The pictures of our long way to the north"_s;
         });
         if (name == u"locked")

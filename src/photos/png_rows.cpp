@@ -121,7 +121,7 @@ QColorSpace colourSpaceOf(png_structp png, png_infop info)
     double gamma = 0;
     if (png_get_valid(png, info, PNG_INFO_sRGB) == 0 && png_get_gAMA(png, info, &gamma) != 0 &&
         gamma > 0.01)
-        return QColorSpace(QColorSpace::Primaries::SRgb, float(1 / gamma));
+        return {QColorSpace::Primaries::SRgb, float(1 / gamma)};
     return {};
 }
 
