@@ -215,7 +215,7 @@ private Q_SLOTS:
     {
         GameWindow window;
         window.platform.defaults->setInteger(SettingsKeys::AmountCards,
-                                            6); // 8 x 5 from the next game
+                                             6); // 8 x 5 from the next game
         window.startGame();
         QVERIFY2(window.card(39).accessibleName().startsWith(u"Row 5, column 8"_s),
                  qPrintable(window.card(39).accessibleName()));

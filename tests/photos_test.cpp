@@ -355,8 +355,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("layout");
         QTest::addColumn<QString>("deck");
-        QTest::newRow("smallest, all photos") << 1 << u"iPhoto"_s;
-        QTest::newRow("largest, an album") << 6 << u"iPhoto: Many"_s;
+        for (int layout = 1; layout <= 6; ++layout) {
+            QTest::addRow("layout %d, all photos", layout) << layout << u"iPhoto"_s;
+            QTest::addRow("layout %d, an album", layout) << layout << u"iPhoto: Many"_s;
+        }
     }
 
     void photosArePlayedInTheWindow()

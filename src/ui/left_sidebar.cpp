@@ -220,7 +220,7 @@ void LeftSidebar::arrange()
     const int room = height() - others;
     const int closeTogether = natural - std::clamp(natural - room, 0, shrinkable);
     const bool scrollsWhole = height() < lowestStill;
-    // Short lists need less than what long ones are left with.
+    // A heading alone takes less than the least room.
     const int visible =
         scrollsWhole ? closeTogether : std::min(std::max(room, leastHighscores), closeTogether);
     m_column->resize(viewport()->width(), std::max(height(), others + visible));
