@@ -264,7 +264,7 @@ private Q_SLOTS:
         };
         look(window.window(), 5);
         window.delegate.showPreferences();
-        QWidget& preferences = window.child<QWidget>(u"Preferences"_s);
+        auto& preferences = window.child<QWidget>(u"Preferences"_s);
         QVERIFY(QTest::qWaitForWindowActive(&preferences));
         look(preferences, 8);
         QApplication::setPalette(before);
