@@ -7,6 +7,8 @@
 #include <QList>
 #include <QSet>
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
@@ -21,11 +23,20 @@ constexpr int deepest = 64;
 
 constexpr int readOnly = O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
 
+/// Whether `errno` tells of a failure that may pass: what was to be read is not gone,
+/// forbidden or of another kind, but on a disk or a server that does not give it.
+bool mayPass()
+{
+    static constexpr std::array others = {0, ENOENT, ENOTDIR, EACCES, EPERM, ELOOP, ENAMETOOLONG};
+    return std::ranges::find(others, errno) == others.end();
+}
+
 /// The entries of one folder that are not hidden, in order of their names.
 struct Entries {
     QList<QByteArray> files{};
     QList<QByteArray> folders{};
     QList<QByteArray> links{};
+    bool areAll = true; ///< Whether none is missing that may be there another time.
 };
 
 unsigned char entryType(int folder, const dirent& entry)
@@ -43,11 +54,17 @@ Entries entriesOf(int folder)
 {
     Entries entries;
     Descriptor copy(::openat(folder, ".", readOnly | O_DIRECTORY));
+    entries.areAll = copy.isOpen() || !mayPass();
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(copy.get()), ::closedir);
     if (!stream)
         return entries;
     (void)copy.release();
-    while (const dirent* const entry = ::readdir(stream.get())) {
+    // Its end and a failure look alike but for this.
+    const auto next = [&stream] {
+        errno = 0;
+        return ::readdir(stream.get());
+    };
+    while (const dirent* const entry = next()) {
         if (entry->d_name[0] == '.')
             continue;
         switch (entryType(folder, *entry)) {
@@ -65,6 +82,7 @@ Entries entriesOf(int folder)
             break;
         }
     }
+    entries.areAll = !mayPass();
     for (QList<QByteArray>* const list : {&entries.files, &entries.folders, &entries.links})
         std::ranges::sort(*list);
     return entries;
@@ -102,7 +120,7 @@ Descriptor openBelow(int root, const QByteArray& path)
         opened = Descriptor(::openat(opened.get(), names[i].constData(), readOnly | folderToo));
     }
     struct stat status {};
-    if (::fstat(opened.get(), &status) != 0 ||
+    if (!opened.isOpen() || ::fstat(opened.get(), &status) != 0 ||
         (!S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode)))
         return Descriptor();
     return opened;
@@ -111,7 +129,7 @@ Descriptor openBelow(int root, const QByteArray& path)
 /// One listing under way.
 class Listing::Walk {
 public:
-    Walk(const Listing& listing, const QByteArray& top, bool withFilms, const Visitor& visit)
+    Walk(Listing& listing, const QByteArray& top, bool withFilms, const Visitor& visit)
         : m_listing(listing)
         , m_top(top)
         , m_withFilms(withFilms)
@@ -125,6 +143,7 @@ public:
         if (!opened.isOpen() || depth > deepest)
             return true;
         const Entries entries = entriesOf(opened.get());
+        m_listing.m_isWhole = m_listing.m_isWhole && entries.areAll;
         for (const QByteArray& name : entries.files) {
             if (!file(joined(path, name)))
                 return false;
@@ -137,6 +156,7 @@ public:
             m_listing.m_progress();
             const Descriptor inner(
                 ::openat(opened.get(), name.constData(), readOnly | O_DIRECTORY));
+            m_listing.note(inner.isOpen());
             return folder(inner, joined(path, name), depth + 1);
         });
     }
@@ -165,12 +185,13 @@ private:
             return true;
         m_linked.insert(target);
         const Descriptor opened = openBelow(m_listing.m_root, target);
+        m_listing.note(opened.isOpen());
         if (!opened.isOpen())
             return true;
         return isFolder(opened.get()) ? folder(opened, target, depth + 1) : file(target);
     }
 
-    const Listing& m_listing;
+    Listing& m_listing;
     const QByteArray& m_top;
     bool m_withFilms;
     const Visitor& m_visit;
@@ -185,30 +206,42 @@ Listing::Listing(int root, QByteArray rootPath, std::function<void()> progress)
 {
 }
 
-void Listing::visitAssets(const QByteArray& path, bool withFilms, const Visitor& visit) const
+void Listing::visitAssets(const QByteArray& path, bool withFilms, const Visitor& visit)
 {
     m_progress();
-    Walk(*this, path, withFilms, visit).folder(openBelow(m_root, path), path, 0);
+    const Descriptor top = openBelow(m_root, path);
+    note(top.isOpen());
+    Walk(*this, path, withFilms, visit).folder(top, path, 0);
 }
 
-void Listing::visitAlbums(
-    const std::function<void(const QByteArray&, const QByteArray&)>& visit) const
+void Listing::visitAlbums(const std::function<void(const QByteArray&, const QByteArray&)>& visit)
 {
     const Entries entries = entriesOf(m_root);
+    m_isWhole = m_isWhole && entries.areAll;
     for (const QByteArray& name : entries.folders)
         visit(name, name);
     for (const QByteArray& name : entries.links) {
         const QByteArray target = linkTarget({}, name);
-        if (!target.isEmpty() && isFolder(openBelow(m_root, target).get()))
+        if (target.isEmpty())
+            continue;
+        const Descriptor opened = openBelow(m_root, target);
+        note(opened.isOpen());
+        if (isFolder(opened.get()))
             visit(name, target);
     }
 }
 
-QByteArray Listing::linkTarget(const QByteArray& folder, const QByteArray& name) const
+void Listing::note(bool isRead)
+{
+    m_isWhole = m_isWhole && (isRead || !mayPass());
+}
+
+QByteArray Listing::linkTarget(const QByteArray& folder, const QByteArray& name)
 {
     const QByteArray path = m_rootPath + '/' + joined(folder, name);
     const std::unique_ptr<char, void (*)(void*)> resolved(::realpath(path.constData(), nullptr),
                                                           std::free);
+    note(resolved != nullptr);
     const QByteArray target(resolved.get());
     const QByteArray inside = m_rootPath.endsWith('/') ? m_rootPath : m_rootPath + '/';
     if (!target.startsWith(inside) || target.indexOf("/.", inside.size() - 1) >= 0)

@@ -32,19 +32,26 @@ public:
     Listing(int root, QByteArray rootPath, std::function<void()> progress);
 
     /// What lies below the folder `path`; without `withFilms` pictures only.
-    void visitAssets(const QByteArray& path, bool withFilms, const Visitor& visit) const;
+    void visitAssets(const QByteArray& path, bool withFilms, const Visitor& visit);
 
     /// The library's direct subfolders, and links to its folders: name and path.
-    void visitAlbums(
-        const std::function<void(const QByteArray& name, const QByteArray& path)>& visit) const;
+    void
+    visitAlbums(const std::function<void(const QByteArray& name, const QByteArray& path)>& visit);
+
+    /// Whether nothing was left out so far that may be there another time: what a disk
+    /// or a server did not give. What is forbidden or gone does not count.
+    [[nodiscard]] bool isWhole() const { return m_isWhole; }
 
 private:
     class Walk;
+    /// Takes note of a failure, which `errno` tells of.
+    void note(bool isRead);
     /// Where the link `name` in the folder `folder` leads to; empty if out of the
     /// library or to something hidden.
-    [[nodiscard]] QByteArray linkTarget(const QByteArray& folder, const QByteArray& name) const;
+    [[nodiscard]] QByteArray linkTarget(const QByteArray& folder, const QByteArray& name);
 
     int m_root;
     QByteArray m_rootPath;
     std::function<void()> m_progress;
+    bool m_isWhole = true;
 };

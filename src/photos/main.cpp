@@ -83,7 +83,7 @@ private:
     QElapsedTimer m_since{};
 };
 
-void listAlbums(const Listing& listing, Replies& replies, bool isCounted)
+void listAlbums(Listing& listing, Replies& replies, bool isCounted)
 {
     listing.visitAlbums([&](const QByteArray& title, const QByteArray& path) {
         bool holdsSomething = !isCounted;
@@ -94,10 +94,15 @@ void listAlbums(const Listing& listing, Replies& replies, bool isCounted)
             });
         replies.add(Kind::album, QByteArray(1, holdsSomething ? '\1' : '\0') + title + '\0' + path);
     });
+    // Without a last word the game takes them for some of the albums only.
+    if (!listing.isWhole()) {
+        replies.showProgress();
+        ::_exit(1);
+    }
     replies.finish(Kind::done);
 }
 
-void listAssets(const Listing& listing, Replies& replies, const QByteArray& folder, bool withFilms)
+void listAssets(Listing& listing, Replies& replies, const QByteArray& folder, bool withFilms)
 {
     listing.visitAssets(folder, withFilms, [&replies](const QByteArray& path) {
         replies.addPath(path);
@@ -116,7 +121,7 @@ QByteArray pixelsOf(const QImage& image)
     return content;
 }
 
-void answer(const PhotoMessages::Frame& request, const Listing& listing, int root, Replies& replies)
+void answer(const PhotoMessages::Frame& request, Listing& listing, int root, Replies& replies)
 {
     switch (request.kind) {
     case Kind::countedAlbums:
@@ -154,7 +159,7 @@ int main(int argc, char* argv[])
     confine(library);
 
     Replies replies;
-    const Listing listing(root.get(), library, [&replies] { replies.showProgress(); });
+    Listing listing(root.get(), library, [&replies] { replies.showProgress(); });
     PhotoMessages::FrameReader requests;
     std::array<char, 8192> bytes{};
     while (!requests.isBroken()) {

@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const QTemporaryDir folder;
     static const QByteArray library = madeLibrary(folder);
     static const Descriptor root(::open(library.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    const Listing listing(root.get(), library, [] {});
+    Listing listing(root.get(), library, [] {});
 
     const QByteArray bytes = bytesOf(data, size);
     const std::vector<Frame> frames = framesOf(bytes, bytes.size());

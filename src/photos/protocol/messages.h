@@ -35,7 +35,7 @@ enum class Kind : std::uint8_t {
     pixels,  ///< Nothing if there is no picture. Else 1 if it has alpha or 0, then the
              ///< pixels as 32-bit ARGB, premultiplied.
     working, ///< No content. Progress without a result so far.
-    done,    ///< No content. The end of a list.
+    done,    ///< No content. The end of a list; without it some albums may be missing.
 };
 
 struct Frame {
