@@ -56,6 +56,17 @@ std::optional<std::vector<PictureFile>> pictureFiles(const QString& folder)
     return files;
 }
 
+/// The reader for the content of `file`, whatever its name says; none for what is
+/// neither PNG nor JPEG. Named, no plugin for another format is even loaded.
+QByteArray readerFor(QFile& file)
+{
+    constexpr QByteArrayView png("\x89PNG\r\n\x1a\n");
+    const QByteArray head = file.peek(png.size());
+    if (head == png)
+        return "png";
+    return head.startsWith("\xff\xd8\xff") ? "jpeg" : QByteArray();
+}
+
 /// The picture in the file `path`; null if there is none, or one too large to decode.
 QImage decodedPicture(const std::filesystem::path& path)
 {
@@ -67,7 +78,12 @@ QImage decodedPicture(const std::filesystem::path& path)
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle))
         return {};
-    QImage image = QImageReader(&file).read();
+    const QByteArray format = readerFor(file);
+    if (format.isEmpty())
+        return {};
+    QImageReader reader(&file, format);
+    reader.setAutoDetectImageFormat(false);
+    QImage image = reader.read();
     if (image.width() > longestEdge || image.height() > longestEdge)
         image =
             image.scaled(longestEdge, longestEdge, Qt::KeepAspectRatio, Qt::SmoothTransformation);
