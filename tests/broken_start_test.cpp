@@ -87,9 +87,12 @@ private Q_SLOTS:
         const auto before = identities();
         qputenv("QT_QPA_PLATFORM", "offscreen"); // without a file of ours
         Program game(home.path(), home.filePath(u"bin/paircade"_s));
-        QVERIFY2(game.comesUp(), game.process.readAllStandardError());
+        const bool isUp = game.comesUp();
         game.signal(SIGTERM);
-        QVERIFY(game.endsWell());
+        const bool isOver = game.endsWell();
+        QCOMPARE(game.process.readAllStandardError(), QByteArray());
+        QCOMPARE(game.process.readAllStandardOutput(), QByteArray());
+        QVERIFY(isUp && isOver);
         QVERIFY(identities() == before);
     }
 };

@@ -24,6 +24,7 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QTranslator>
 #include <cstdio>
 
@@ -53,6 +54,9 @@ void loadIcon(const ApplicationBundle& bundle)
 
 int main(int argc, char* argv[])
 {
+    // Qt complains of every lock in a network folder that knows none, and of whatever else it
+    // makes do with. QT_LOGGING_RULES="default.warning=true" lets it.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const QByteArray activationToken = SingleInstance::ownActivationToken();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Paircade"));
