@@ -53,6 +53,11 @@ private Q_SLOTS:
         row("a folder as the lock", "mkdir data/Paircade/lock", {results, lock});
         row("a link to nowhere as the lock", "ln -s nowhere data/Paircade/lock", {results, lock});
         row("no runtime folder", "rm -r runtime; echo >runtime", {results, u"runtime"_s});
+        row("standard streams closed",
+            "mv bin/paircade bin/it;"
+            "printf '#!/bin/sh\nexec \"${0%%paircade}it\" <&- >&- 2>&-\n' >bin/paircade;"
+            "chmod 755 bin/paircade",
+            {results});
         row("no resources", "rm -r share", {results});
         row("a pipe as logo and texts",
             "rm -r share; mkdir -p share/paircade/translations; cd share/paircade;"
@@ -88,10 +93,12 @@ private Q_SLOTS:
         qputenv("QT_QPA_PLATFORM", "offscreen"); // without a file of ours
         Program game(home.path(), home.filePath(u"bin/paircade"_s));
         const bool isUp = game.comesUp();
+        const QString log = QFile::symLinkTarget(u"/proc/%1/fd/1"_s.arg(game.process.processId()));
         game.signal(SIGTERM);
         const bool isOver = game.endsWell();
         QCOMPARE(game.process.readAllStandardError(), QByteArray());
         QCOMPARE(game.process.readAllStandardOutput(), QByteArray());
+        QVERIFY2(!log.isEmpty() && !log.startsWith(home.path()), qPrintable(log));
         QVERIFY(isUp && isOver);
         QVERIFY(identities() == before);
     }

@@ -27,8 +27,20 @@
 #include <QLoggingCategory>
 #include <QTranslator>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
+
+/// Whoever starts the game may have closed them, and the log would go into whatever file
+/// or connection is opened in their place.
+void openStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) == -1)
+            (void)::open("/dev/null", O_RDWR); // takes the lowest number that is free
+    }
+}
 
 /// Installs our texts and those of Qt's own controls in the user's language.
 void installCatalogues(QTranslator& ours, QTranslator& controls, const ApplicationBundle& bundle)
@@ -54,6 +66,7 @@ void loadIcon(const ApplicationBundle& bundle)
 
 int main(int argc, char* argv[])
 {
+    openStandardStreams();
     // Qt complains of every lock in a network folder that knows none, and of whatever else it
     // makes do with. QT_LOGGING_RULES="default.warning=true" lets it.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
