@@ -298,11 +298,11 @@ private Q_SLOTS:
         QCOMPARE(QDir(highscoreFolder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
-    void wantOfMemoryIsNoFaultOfTheFile()
+    void wantOfMemoryHandlesOrADiskIsNoFaultOfTheFile()
     {
-        QVERIFY(!readHighscores(highscoreFile()).isTooLarge);
+        QVERIFY(!readHighscores(highscoreFile()).mustStay);
         writeFile(highscoreFile(), "{");
-        QVERIFY(!readHighscores(highscoreFile()).isTooLarge);
+        QVERIFY(!readHighscores(highscoreFile()).mustStay);
 
         // Half as much as the file is long, and it is no list of results.
         constexpr qint64 length = qint64{300} << 20;
@@ -315,8 +315,16 @@ private Q_SLOTS:
         ::setrlimit(RLIMIT_AS, &little);
         const StoredHighscores stored = readHighscores(highscoreFile());
         ::setrlimit(RLIMIT_AS, &before);
-        QVERIFY(stored.isTooLarge && !stored.entries);
-        QVERIFY(!readHighscores(highscoreFile()).isTooLarge);
+        QVERIFY(stored.mustStay && !stored.entries);
+        QVERIFY(!readHighscores(highscoreFile()).mustStay);
+
+        QVERIFY(readHighscores(u"/proc/self/mem"_s).mustStay); // can be opened, not read
+        ::getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none{0, before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &none);
+        const bool mustStay = readHighscores(highscoreFile()).mustStay;
+        ::setrlimit(RLIMIT_NOFILE, &before);
+        QVERIFY(mustStay);
     }
 
 private:

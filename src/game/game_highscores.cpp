@@ -31,7 +31,7 @@ void MemoryGame::appendHighscoreEntry(const HighscoreEntry& entry)
         HighscoreEntries entries = std::move(stored.entries).value_or(HighscoreEntries());
         entries.push_back(entry);
         // A failed write is not reported; the lists show the record all the same.
-        if (!stored.isTooLarge)
+        if (!stored.mustStay)
             (void)writeHighscores(file, entries);
         updateHighscoreLists(entries);
     });
@@ -85,7 +85,7 @@ void MemoryGame::restoreHighscores()
         const StoredHighscores present = readHighscores(file);
         if (present.entries)
             entries.insert(entries.end(), present.entries->begin(), present.entries->end());
-        if (present.isTooLarge || !writeHighscores(file, entries))
+        if (present.mustStay || !writeHighscores(file, entries))
             return;
         m_removedEntries.clear();
         updateHighscoreLists(entries);

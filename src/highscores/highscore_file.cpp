@@ -48,17 +48,18 @@ StoredHighscores readHighscores(const QString& path)
     // Opening a pipe waits for whoever writes into it, and a device may never end.
     if (path.isEmpty() || !QFileInfo(path).isFile())
         return {};
+    StoredHighscores stored{.mustStay = QFileInfo(path).isReadable()};
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    StoredHighscores stored;
-    const bool isRead = file.size() <= longestFile() && withinMemory([&] {
-                            const QByteArray json = file.readAll();
-                            // readAll() answers a failure with what it had got so far.
-                            if (file.error() == QFileDevice::NoError)
-                                stored.entries = decodeHighscores(json);
-                        });
-    stored.isTooLarge = !isRead;
+    if (!file.open(QIODevice::ReadOnly) || file.size() > longestFile())
+        return stored;
+    (void)withinMemory([&] {
+        const QByteArray json = file.readAll();
+        // readAll() answers a failure with what it had got so far.
+        if (file.error() != QFileDevice::NoError)
+            return;
+        stored.entries = decodeHighscores(json);
+        stored.mustStay = false;
+    });
     return stored;
 }
 

@@ -21,13 +21,14 @@ struct StoredHighscores {
     /// All records, oldest first; none if the file is missing, cannot be read or is
     /// no list of complete records.
     std::optional<HighscoreEntries> entries{};
-    /// Whether the file was not read for want of memory alone. It may hold every
-    /// result of its player, and nobody may replace it by fewer.
-    bool isTooLarge = false;
+    /// Whether the file is there for the user to read, and only memory, handles or the
+    /// disk did not allow it this time. It may hold every result of its player, and
+    /// nobody may replace it by fewer.
+    bool mustStay = false;
 };
 
-/// Reads the file anew. Too large is what memory cannot be had for, and what would
-/// take all the memory of this machine before the system says so.
+/// Reads the file anew, unless it would take all the memory of this machine before the
+/// system says so.
 [[nodiscard]] StoredHighscores readHighscores(const QString& file);
 
 /// Replaces the file in one step by `entries`. False, and the old file stays,
