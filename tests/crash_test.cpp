@@ -6,6 +6,7 @@
 #include "game/memory_game.h"
 #include "highscores/highscore_file.h"
 #include "platform/user_folders.h"
+#include "settings/default_settings.h"
 #include "settings/settings_keys.h"
 #include "support/files.h"
 #include "support/play.h"
@@ -253,6 +254,16 @@ private Q_SLOTS:
             QVERIFY(shows(game));
         }
         QVERIFY(stored > 0 && stored < 8);
+
+        // Settings that could not be read are not missing ones, to be stored anew.
+        const QString settings = game.platform.home.filePath(u"settings"_s);
+        writeFile(settings, "[General]\nAmountCards=4\n");
+        const rlimit none{limitFor(0), before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &none);
+        UserDefaults unread(settings);
+        ::setrlimit(RLIMIT_NOFILE, &before);
+        createDefaultSettings(unread);
+        QCOMPARE(contentsOf(settings), "[General]\nAmountCards=4\n");
     }
 
     void aFolderThatVanishesIsMadeAnew()

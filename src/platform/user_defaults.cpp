@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/user_defaults.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QTemporaryFile>
@@ -29,15 +30,29 @@ std::int64_t nearestInteger(double number)
     return static_cast<std::int64_t>(number);
 }
 
-/// QSettings would wait for a pipe without end, replace a device, and wait for a lock
-/// that is no file; in place of such a path it is given one where nothing can be.
+/// Whether the file is there for the user to read, and yet cannot be read this time.
+bool isWithheld(const QString& path)
+{
+    if (!QFileInfo(path).isReadable())
+        return false;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return true;
+    (void)file.readAll();
+    return file.error() != QFileDevice::NoError;
+}
+
+/// QSettings would wait for a pipe without end, replace a device, wait for a lock that is
+/// no file, and take for empty, to write it anew, what out of handles or on a failing disk
+/// it cannot read; in place of such a path it is given one where nothing can be.
 QString pathForStore(const QString& path)
 {
+    const QString nowhere = QStringLiteral("/dev/null/none");
     for (const QFileInfo& file : {QFileInfo(path), QFileInfo(path + QStringLiteral(".lock"))}) {
         if (file.exists() && !file.isFile())
-            return QStringLiteral("/dev/null/none");
+            return nowhere;
     }
-    return path;
+    return isWithheld(path) ? nowhere : path;
 }
 
 } // namespace
