@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
+#include <unistd.h>
 
 std::optional<QString> writeAtomically(const QString& path, const QByteArray& contents,
                                        std::optional<QFileDevice::Permissions> permissions)
@@ -23,6 +25,10 @@ std::optional<QString> writeAtomically(const QString& path, const QByteArray& co
         isGood = written > 0;
         done += written;
     }
+    // commit() ignores what this says, and in a network folder only this tells that a quota
+    // was exceeded. EINVAL and ENOSYS: the file system cannot be asked.
+    if (isGood && ::fdatasync(file.handle()) != 0 && errno != EINVAL && errno != ENOSYS)
+        return qt_error_string(errno);
     if (isGood && file.commit())
         return std::nullopt;
     return file.errorString();
