@@ -205,7 +205,10 @@ private Q_SLOTS:
         entry.winnerName.reset();
         entry.firstPlayerScore.reset();
         entry.secondPlayerScore.reset();
-        QCOMPARE(encodeHighscores({entry}).count(':'), 7);
+        entry.playerName = QChar(0xd83d); // half of a pair, which UTF-8 cannot hold
+        const QByteArray least = encodeHighscores({entry});
+        QCOMPARE(least.count(':'), 7);
+        QCOMPARE(decodeHighscores(least)->front().playerName, u"?"_s);
         QCOMPARE(encodeHighscores({}), QByteArray("[]\n"));
     }
 
