@@ -10,37 +10,14 @@
 #include "support/game_window.h"
 #include "support/output_of.h"
 
-#include <csignal>
-#include <sys/resource.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// While this lives, no file grows beyond `bytes`, as on a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit full{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_before{};
-};
-
 QByteArray resultsOf(std::size_t count, const QString& name)
 {
-    HighscoreEntry entry;
-    entry.gameMode = u"solo"_s;
-    entry.playerName = name;
-    entry.amountCards = 1;
-    entry.amountRounds = 1;
+    const HighscoreEntry entry{
+        .gameMode = soloMode, .playerName = name, .amountCards = 1, .amountRounds = 1};
     return encodeHighscores(HighscoreEntries(count, entry));
 }
 
@@ -59,6 +36,15 @@ void settings(TestPlatform& platform, const QByteArray& contents)
 {
     writeFile(settingsFile(), contents);
     platform.defaults->reread();
+}
+
+void setAll(TestPlatform& platform, const QByteArray& number, const QByteArray& rounds)
+{
+    settings(platform, QByteArray("[General]\nAmountCards=#\nGameIsActive=#\nRemoveMatch=#\n"
+                                  "LaunchInFullscreen=#\nPlaySounds=#\nVolumeSound=#\n"
+                                  "PaircadeAlbum=#\nAmountRounds=")
+                               .replace('#', number) +
+                           rounds + '\n');
 }
 
 const std::vector<World>& worlds()
@@ -81,21 +67,9 @@ const std::vector<World>& worlds()
          },
          1},
         {"each setting far below its range",
-         [](auto& p) {
-             settings(p, QByteArray("[General]\nAmountCards=#\nAmountRounds=#\nGameIsActive=#\n"
-                                    "RemoveMatch=#\nLaunchInFullscreen=#\nPlaySounds=#\n"
-                                    "VolumeSound=#\nPaircadeAlbum=#\n")
-                             .replace('#', "-99999999999999999999"));
-         },
-         1},
+         [](auto& p) { setAll(p, "-99999999999999999999", "-99999999999999999999"); }, 1},
         {"each setting far above its range, but the rounds, which have no end",
-         [](auto& p) {
-             settings(p, QByteArray("[General]\nAmountCards=#\nGameIsActive=#\nRemoveMatch=#\n"
-                                    "LaunchInFullscreen=#\nPlaySounds=#\nVolumeSound=#\n"
-                                    "PaircadeAlbum=#\n")
-                             .replace('#', "99999999999999999999"));
-         },
-         1},
+         [](auto& p) { setAll(p, "99999999999999999999", "1"); }, 1},
         {"a folder of settings that cannot be written",
          [](auto&) { forbid(QFileInfo(settingsFile()).path(), 0555); }, 1, Settings::stay},
         {"a folder of results that cannot be written",
@@ -116,17 +90,8 @@ const std::vector<World>& worlds()
              forbid(results(p));
          },
          untouched},
-        {"a pipe as results",
-         [=](auto& p) {
-             QDir().mkpath(folder(p));
-             makePipe(results(p));
-         },
-         untouched},
-        {"a device as results",
-         [=](auto& p) {
-             QDir().mkpath(folder(p));
-             QFile::link(u"/dev/zero"_s, results(p));
-         },
+        {"a pipe as results", [=](auto& p) { makePipe(results(p)); }, untouched},
+        {"a device as results", [=](auto& p) { QFile::link(u"/dev/zero"_s, results(p)); },
          untouched},
         {"results of 4 TB",
          [=](auto& p) {
@@ -168,6 +133,7 @@ private Q_SLOTS:
         std::invoke_result_t<decltype(identities), TestPlatform&> before;
         QElapsedTimer time;
         GameWindow window([&](TestPlatform& platform) {
+            QDir().mkpath(QFileInfo(platform.highscoreFile()).path());
             where.prepare(platform);
             before = identities(platform);
             nobody = std::make_unique<AsNobody>(platform.home.path());

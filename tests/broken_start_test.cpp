@@ -26,14 +26,10 @@ private Q_SLOTS:
         const QString settings = u"config/Paircade/Paircade.conf"_s;
         const QString results = u"data/Paircade/highscores.json"_s;
         const QString lock = u"data/Paircade/lock"_s;
-        row("a folder of settings that cannot be written", "chmod 555 config/Paircade",
-            {u"config/Paircade"_s, settings});
         row("settings that cannot be written", "chmod 444 config/Paircade/Paircade.conf",
             {settings});
         row("no folder of settings, and none can be made", "rm -r config/*; chmod 555 config",
             {u"config"_s, settings});
-        row("a folder of results that cannot be written", "chmod 555 data/Paircade",
-            {u"data/Paircade"_s, results});
         row("no folder of results, and none can be made", "rm -r data/*; chmod 555 data",
             {u"data"_s, results});
         row("a pipe as settings", "rm config/*/*; mkfifo config/Paircade/Paircade.conf",
@@ -44,8 +40,6 @@ private Q_SLOTS:
             {settings, settings + u".lock"_s});
         row("a file as the folder of settings", "rm -r config; echo > config", {u"config"_s});
         row("a file as the folder of results", "rm -r data; echo > data", {u"data"_s});
-        row("a pipe as results", "rm data/*/*; mkfifo data/Paircade/highscores.json", {results});
-        row("garbage as results", "echo { >data/Paircade/highscores.json", {results});
         row("a lock cut short by a crash", ": >data/Paircade/lock", {results});
         row("a lock from before the machine was renamed",
             "printf '1\\npaircade\\nelsewhere\\n' >data/Paircade/lock", {results});

@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QPainter>
 #include <QRegularExpression>
 #include <QTest>
 #include <QVector3D>
@@ -29,7 +28,6 @@ struct Vision {
     const char* name;
     double least;               ///< Mean colour difference over all points, CIE76.
     QVector3D red, green, blue; ///< What it sees, each as shares of linear RGB.
-    QVector3D confused;         ///< The way through linear RGB that changes least for it.
 };
 
 constexpr QVector3D luminance(0.2126F, 0.7152F, 0.0722F); ///< Shares of linear RGB.
@@ -39,31 +37,27 @@ constexpr QVector3D luminance(0.2126F, 0.7152F, 0.0722F); ///< Shares of linear 
 /// Transactions on Visualization and Computer Graphics 15(6), 2009, severity 1.0.
 ///
 /// Between two even surfaces a difference of 2.3 is just seen. The nearest pairs
-/// of the decks measure 24.1 (normal), 10.1 (grey), 19.6, 19.0 and 20.0. Copies
-/// of the pictures, retouched as twinsAreFound() does it, measure at most 10.8,
-/// 5.8, 9.4, 9.2 and 7.5. The bounds lie about 5 % below the nearest pairs: no
+/// of the decks measure 24.1 (normal), 10.1 (grey), 19.6, 19.0 and 20.0, a picture
+/// under a veil at most 5.8. The bounds lie about 5 % below the nearest pairs: no
 /// new picture comes nearer, another version of the renderer may do its rounding.
 const std::vector<Vision> visions{
-    {"normal", 23, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {}},
-    {"grey", 9.5, luminance, luminance, luminance, {1, -0.2973F, 0}},
+    {"normal", 23, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+    {"grey", 9.5, luminance, luminance, luminance},
     {"protanopia",
      18.5,
      {0.152286F, 1.052583F, -0.204868F},
      {0.114503F, 0.786281F, 0.099216F},
-     {-0.003882F, -0.048116F, 1.051998F},
-     {1, -0.145F, -0.003F}},
+     {-0.003882F, -0.048116F, 1.051998F}},
     {"deuteranopia",
      18,
      {0.367322F, 0.860646F, -0.227968F},
      {0.280085F, 0.672501F, 0.047413F},
-     {-0.011820F, 0.042940F, 0.968881F},
-     {1, -0.419F, 0.031F}},
+     {-0.011820F, 0.042940F, 0.968881F}},
     {"tritanopia",
      19,
      {1.255528F, -0.076749F, -0.178779F},
      {-0.078411F, 0.930809F, 0.147602F},
-     {0.004733F, 0.691367F, 0.303900F},
-     {0.13F, -0.3F, 1}},
+     {0.004733F, 0.691367F, 0.303900F}},
 };
 
 /// The light of the picture on a small card, a little out of focus.
@@ -122,24 +116,6 @@ double difference(const Points& one, const Points& other)
     for (std::size_t i = 0; i < one.size(); ++i)
         sum += double((one[i] - other[i]).length());
     return sum / double(one.size());
-}
-
-/// `light` with every colour moved as far as `way` leads, forth or back.
-Points recoloured(Points light, const QVector3D& way)
-{
-    for (QVector3D& point : light) {
-        float back = -9, forth = 9;
-        for (int channel = 0; channel < 3; ++channel) {
-            if (way[channel] != 0) {
-                const auto [first, last] = std::minmax(
-                    {-point[channel] / way[channel], (1 - point[channel]) / way[channel]});
-                back = std::max(back, first);
-                forth = std::min(forth, last);
-            }
-        }
-        point += (forth > -back ? forth : back) * way;
-    }
-    return light;
 }
 
 /// What in a drawing is not a shape of its own; empty if there is nothing.
@@ -201,74 +177,16 @@ private Q_SLOTS:
                 std::vector<Points> seen;
                 for (const Points& light : lights)
                     seen.push_back(seenBy(vision, light));
-                double nearest = 999;
-                QString pair;
                 for (std::size_t i = 0; i < seen.size(); ++i) {
                     for (std::size_t j = 0; j < i; ++j) {
                         const double between = difference(seen[i], seen[j]);
-                        if (between < nearest) {
-                            nearest = between;
-                            pair = m_decks[deck][j].name + u' ' + m_decks[deck][i].name;
-                        }
+                        const QString found = u"%1, %2: %3 between %4 and %5"_s.arg(
+                            deck, QLatin1String(vision.name), QString::number(between),
+                            m_decks[deck][j].name, m_decks[deck][i].name);
+                        QVERIFY2(between >= vision.least, qPrintable(found));
                     }
                 }
-                const QString found = u"%1, %2: %3 between %4"_s.arg(
-                    deck, QLatin1String(vision.name), QString::number(nearest), pair);
-                QVERIFY2(nearest >= vision.least, qPrintable(found));
             }
-        }
-    }
-
-    void twinsAreFound_data()
-    {
-        QTest::addColumn<QString>("deck");
-        QTest::addColumn<QImage>("twin");
-        for (const auto& [deck, pictures] : m_decks) {
-            const QImage& picture = pictures.front().image;
-            const auto row = [&deck = deck, &picture](const char* name, const auto& retouch) {
-                QImage twin = picture;
-                QPainter painter(&twin);
-                retouch(painter);
-                painter.end();
-                QTest::addRow("%s: %s", qPrintable(deck), name) << deck << twin;
-            };
-            row("moved by a pixel of the small card",
-                [&](QPainter& painter) { painter.drawImage(picture.width() / edge, 0, picture); });
-            row("a patch painted on it",
-                [](QPainter& painter) { painter.fillRect(200, 200, 100, 100, Qt::red); });
-            row("under a veil", [&](QPainter& painter) {
-                painter.fillRect(picture.rect(), QColor(255, 255, 255, 24));
-            });
-        }
-    }
-
-    void twinsAreFound()
-    {
-        QFETCH(const QString, deck);
-        QFETCH(const QImage, twin);
-        const Points light = lightOf(twin);
-        for (const Vision& vision : visions) {
-            const double between =
-                difference(seenBy(vision, light), seenBy(vision, m_lights[deck].front()));
-            QVERIFY2(between > 0 && between < vision.least, vision.name);
-        }
-    }
-
-    /// A copy in other colours is a twin for the eye that confuses them alone.
-    void coloursThatAnEyeConfusesDoNotCount()
-    {
-        const Vision& normal = visions.front();
-        const Points& light = m_lights[u"Cyberpunk"_s][5];
-        for (const Vision& vision : visions) {
-            const QVector3D white = seenBy(vision, {{1, 1, 1}}).front();
-            QVERIFY2((white - QVector3D(100, 0, 0)).length() < 0.1F, vision.name);
-            if (vision.confused.isNull())
-                continue;
-            const Points twin = recoloured(light, vision.confused);
-            QVERIFY2(difference(seenBy(vision, light), seenBy(vision, twin)) < vision.least,
-                     vision.name);
-            QVERIFY2(difference(seenBy(normal, light), seenBy(normal, twin)) > 2 * normal.least,
-                     vision.name);
         }
     }
 
@@ -288,42 +206,26 @@ private Q_SLOTS:
         QCOMPARE(drawings, 96);
     }
 
-    void otherSourcesAreFound_data()
-    {
-        QTest::addColumn<QByteArray>("svg");
-        QTest::addColumn<QString>("fault");
-        const auto row = [](const char* name, const QByteArray& body, const QString& fault) {
-            QTest::newRow(name) << "<svg xmlns='http://www.w3.org/2000/svg' "
-                                   "xmlns:x='http://www.w3.org/1999/xlink'>" +
-                                       body + "</svg>"
-                                << fault;
-        };
-        row("text", "<text>2</text>", u"text"_s);
-        row("a script", "<script/>", u"script"_s);
-        row("a raster", "<g><image x:href='#a'/></g>", u"image"_s);
-        row("a page in it", "<foreignObject/>", u"foreignObject"_s);
-        row("a style sheet", "<style>@import 'a.css'</style>", u"style"_s);
-        row("another language", "<h:path xmlns:h='http://www.w3.org/1999/xhtml'/>", u"h:path"_s);
-        row("an event", "<g onclick='f()'/>", u"onclick"_s);
-        row("another file", "<use href='a.svg#b'/>", u"href"_s);
-        row("a page of the web", "<use x:href='https://example.org/#b'/>", u"x:href"_s);
-        row("data", "<use href='data:image/png;base64,AA=='/>", u"href"_s);
-        row("a paint from elsewhere", "<g fill='url( \"a.svg#b\")'/>", u"fill"_s);
-        row("the second paint", "<g style='fill:url(#a);mask:URL(//a)'/>", u"style"_s);
-        row("ids of another file", "<g xml:base='a.svg'/>", u"xml:base"_s);
-        row("a letter in disguise", "<g fill='u\\72l(a)'/>", u"fill"_s);
-        row("all that is allowed", "<g fill='url(\"#a\")'><use x:href='#b'/></g>", QString());
-        QTest::newRow("a sheet beside it")
-            << QByteArray("<?xml-stylesheet href='a.css'?><svg/>") << u"ProcessingInstruction"_s;
-        QTest::newRow("entities") << QByteArray("<!DOCTYPE svg [<!ENTITY a 'b'>]><svg/>")
-                                  << u"DTD"_s;
-    }
-
     void otherSourcesAreFound()
     {
-        QFETCH(const QByteArray, svg);
-        QFETCH(const QString, fault);
-        QCOMPARE(faultIn(svg), fault);
+        const std::map<QByteArray, QString> faults{
+            {"<text>2</text>", u"text"_s},
+            {"<g><image x:href='#a'/></g>", u"image"_s},
+            {"<h:path xmlns:h='http://www.w3.org/1999/xhtml'/>", u"h:path"_s},
+            {"<g onclick='f()'/>", u"onclick"_s},
+            {"<use x:href='https://example.org/#b'/>", u"x:href"_s},
+            {"<g fill='url( \"a.svg#b\")'/>", u"fill"_s},
+            {"<g style='fill:url(#a);mask:URL(//a)'/>", u"style"_s},
+            {"<g xml:base='a.svg'/>", u"xml:base"_s},
+            {"<g fill='u\\72l(a)'/>", u"fill"_s},
+            {"<?xml-stylesheet href='a.css'?>", u"ProcessingInstruction"_s},
+            {"<g fill='url(\"#a\")'><use x:href='#b'/></g>", QString()},
+        };
+        for (const auto& [body, fault] : faults)
+            QCOMPARE(faultIn("<svg xmlns='http://www.w3.org/2000/svg' "
+                             "xmlns:x='http://www.w3.org/1999/xlink'>" +
+                             body + "</svg>"),
+                     fault);
     }
 
 private:

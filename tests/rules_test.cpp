@@ -34,7 +34,6 @@ private Q_SLOTS:
         const auto row = [](const char* name, qint64 amount, Numbers board, Numbers window) {
             QTest::newRow(name) << amount << board << window;
         };
-        row("the lowest number of all", INT64_MIN, {4, 3, 6}, {1100, 700});
         row("wraps to 3 when narrowed too early", -4'294'967'293, {4, 3, 6}, {1100, 700});
         row("missing setting reads 0", 0, {4, 3, 6}, {1100, 700});
         row("1", 1, {4, 3, 6}, {1100, 700});
@@ -45,7 +44,6 @@ private Q_SLOTS:
         row("6", 6, {8, 5, 20}, {1580, 900});
         row("7: the largest board in the first window", 7, {8, 5, 20}, {1100, 700});
         row("wraps to 2 when narrowed too early", 4'294'967'298, {8, 5, 20}, {1100, 700});
-        row("the highest number of all", INT64_MAX, {8, 5, 20}, {1100, 700});
     }
 
     void boardAndWindowOfAmountCards()
@@ -61,7 +59,6 @@ private Q_SLOTS:
     {
         QCOMPARE(roundCount(INT64_MIN), 1);
         QCOMPARE(roundCount(0), 1);
-        QCOMPARE(roundCount(99), 99);
         QCOMPARE(roundCount(INT64_MAX), INT64_MAX);
     }
 
@@ -81,8 +78,6 @@ private Q_SLOTS:
         row("3: the highest word gives 2", 3, {maxWord}, 2);
         row("6: low words 0, 2 and 0 again are redrawn", 6,
             {0, 0x2AAA'AAAA'AAAA'AAAB, half, 0x2AAA'AAAA'AAAA'AAAC}, 1);
-        row("1 leaves no choice and rejects nothing", 1, {0}, 0);
-        row("2 rejects nothing", 2, {0}, 0);
         row("2: the upper half gives 1", 2, {half}, 1);
         row("2^63 + 1: word 2 has low word 2 and is redrawn", half + 1, {0, 2, 3}, 1);
         row("2^63 + 1: a low word equal to the rest counts", half + 1, {maxWord}, half);
@@ -107,7 +102,6 @@ private Q_SLOTS:
                                 << QString::fromLatin1(after);
         };
         row("nothing draws nothing", "", {}, "");
-        row("one element draws nothing", "A", {}, "A");
         row("two stay", "AB", {0}, "AB");
         // Of 4: 1, so A and B swap, BACD. Of 3: 1, BCAD. Of 2: 1, BCDA.
         row("each with its neighbour", "ABCD", {half / 2, 3 * (half / 4), half}, "BCDA");

@@ -1,19 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sounds of a game, as SDL's disk driver hears them, and what the log says of
-// those that cannot be played. Each case is a process of its own, since SDL
-// takes its driver once.
+// those that cannot be played.
 #include "game/memory_game.h"
 #include "settings/settings_keys.h"
+#include "support/files.h"
 #include "support/play.h"
+#include "support/recording.h"
 #include "support/test_platform.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
-#include <cstdlib>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,23 +20,26 @@ void turnACard(const QString& playSounds, const QString& volume)
     platform.defaults->setString(SettingsKeys::PlaySounds, playSounds);
     platform.defaults->setString(SettingsKeys::VolumeSound, volume);
     MemoryGame game;
-    game.setPlayerName(QStringLiteral("Ann"));
+    game.setPlayerName(u"Ann"_s);
     game.startNewGame();
     flip(game, 0);
     QTest::qWait(500);
 }
 
-/// Asks for all four sounds of the resource folder `resources`.
-void playAll(const QString& resources, const QString& playSounds)
+/// Plays a game with one miss, with the sounds of the folder `resources`.
+void playAGame(const QString& resources, const QString& playSounds)
 {
     TestPlatform platform;
     platform.useResources(resources);
+    makeDeck(resources, u"Cyberpunk"_s, 6);
     platform.defaults->setString(SettingsKeys::PlaySounds, playSounds);
     MemoryGame game;
-    game.playCardFlipSound();
-    game.playCardDoneSound();
-    game.playCardResetSound();
-    game.playDoneSound();
+    game.setPlayerName(u"Ann"_s);
+    game.startNewGame();
+    miss(game);
+    (void)QTest::qWaitFor([&game] { return !game.isCheckingPair(); });
+    while (game.isGameActive())
+        findPair(game);
     QTest::qWait(300);
 }
 
@@ -50,104 +49,61 @@ class SoundEffectsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void volumeIsAShareBetweenNothingAndAll_data()
-    {
-        QTest::addColumn<QString>("volume");
-        QTest::addColumn<double>("share");
-        QTest::newRow("half") << "50" << 0.5;
-        QTest::newRow("all") << "100" << 1.0;
-        QTest::newRow("above all is all") << "150" << 1.0;
-        QTest::newRow("below nothing is silence") << "-5" << 0.0;
-        QTest::newRow("no number is silence") << "nan" << 0.0;
-    }
-
     void volumeIsAShareBetweenNothingAndAll()
     {
-        QFETCH(QString, volume);
-        QFETCH(double, share);
-        static const int full = peakAt(QStringLiteral("1"), QStringLiteral("100"));
+        const int full = peakAt(u"1"_s, u"100"_s);
         QVERIFY(full > 5000);
-        const int peak = peakAt(QStringLiteral("1"), volume);
-        QVERIFY2(qAbs(peak - share * full) < 0.03 * full, qPrintable(QString::number(peak)));
-    }
-
-    void onlyExactlyOneTurnsSoundsOn_data()
-    {
-        QTest::addColumn<QString>("playSounds");
-        QTest::newRow("off") << "0";
-        QTest::newRow("any other number") << "2";
-        QTest::newRow("a text") << "true";
+        const std::map<QString, double> shares{
+            {u"50"_s, 0.5}, {u"150"_s, 1}, {u"-5"_s, 0}, {u"nan"_s, 0}};
+        for (const auto& [volume, share] : shares) {
+            const int peak = peakAt(u"1"_s, volume);
+            QVERIFY2(qAbs(peak - share * full) < 0.03 * full,
+                     qPrintable(u"%1: %2"_s.arg(volume).arg(peak)));
+        }
     }
 
     void onlyExactlyOneTurnsSoundsOn()
     {
-        QFETCH(QString, playSounds);
-        // The device is not even opened.
-        QCOMPARE(peakAt(playSounds, QStringLiteral("100")), -1);
-        QTemporaryDir empty;
-        QCOMPARE(run({QStringLiteral("--play-all"), empty.path(), playSounds}), QByteArray());
-    }
-
-    void whatCannotBePlayedIsLogged_data()
-    {
-        QTest::addColumn<bool>("areThere");
-        QTest::newRow("no sound files") << false;
-        QTest::newRow("files that are no sounds") << true;
+        const QTemporaryDir empty;
+        for (const QString& playSounds : {u"0"_s, u"2"_s, u"true"_s}) {
+            // The device is not even opened.
+            QCOMPARE(peakAt(playSounds, u"100"_s), -1);
+            QVERIFY(recordingOf({u"--play"_s, empty.path(), playSounds}).lines.isEmpty());
+        }
     }
 
     void whatCannotBePlayedIsLogged()
     {
-        QFETCH(bool, areThere);
-        QTemporaryDir resources;
-        QVERIFY(QDir(resources.path()).mkpath(QStringLiteral("Sounds")));
-        const QByteArrayList names{"card_flip", "card_done", "card_reset", "done"};
-        for (const QByteArray& name : names) {
-            QFile file(resources.filePath(QStringLiteral("Sounds/") + QString::fromLatin1(name) +
-                                          QStringLiteral(".mp3")));
-            QVERIFY(!areThere || (file.open(QIODevice::WriteOnly) && file.write("no sound") > 0));
-        }
-        const QByteArrayList lines =
-            run({QStringLiteral("--play-all"), resources.path(), QStringLiteral("1")}).split('\n');
-        QCOMPARE(lines.size(), 5);
-        for (int i = 0; i < 4; ++i) {
-            if (areThere)
-                QVERIFY(
-                    lines[i].startsWith("Fehler beim Abspielen von Sounds/" + names[i] + ".mp3: "));
-            else
-                QCOMPARE(lines[i], "Sounddatei Sounds/" + names[i] + ".mp3 nicht gefunden");
-        }
+        const QTemporaryDir resources;
+        const QStringList game{u"--play"_s, resources.path(), u"1"_s};
+        QByteArrayList names{"card_flip", "card_flip", "card_reset"};
+        for (int i = 0; i < 6; ++i)
+            names += {"card_flip", "card_flip", "card_done"};
+        names += "done";
+        QByteArrayList expected;
+        for (const QByteArray& name : names)
+            expected += "Sounddatei Sounds/" + name + ".mp3 nicht gefunden";
+        QCOMPARE(recordingOf(game).lines, expected);
+
+        QVERIFY(QDir(resources.path()).mkpath(u"Sounds"_s));
+        for (const QByteArray& name : names)
+            writeFile(resources.filePath(u"Sounds/%1.mp3"_s.arg(QString::fromLatin1(name))),
+                      "no sound");
+        const QByteArrayList lines = recordingOf(game).lines;
+        QCOMPARE(lines.size(), names.size());
+        for (qsizetype i = 0; i < lines.size(); ++i)
+            QVERIFY(lines[i].startsWith("Fehler beim Abspielen von Sounds/" + names[i] + ".mp3: "));
     }
 
 private:
     /// The loudest sample that a turned card leaves; -1 if no device was opened.
-    int peakAt(const QString& playSounds, const QString& volume)
+    static int peakAt(const QString& playSounds, const QString& volume)
     {
-        QTemporaryDir folder;
-        const QString heard = folder.filePath(QStringLiteral("heard.raw"));
-        qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(heard));
-        run({QStringLiteral("--turn"), playSounds, volume});
-        QFile file(heard);
-        if (!file.open(QIODevice::ReadOnly))
-            return -1;
-        const QByteArray bytes = file.readAll();
-        const auto* const samples = reinterpret_cast<const std::int16_t*>(bytes.constData());
-        int peak = 0;
-        for (qsizetype i = 0; i < bytes.size() / 2; ++i)
-            peak = std::max(peak, std::abs(int(samples[i])));
+        const Recording heard = recordingOf({u"--turn"_s, playSounds, volume});
+        int peak = heard.isMade ? 0 : -1;
+        for (const int sample : heard.left)
+            peak = std::max(peak, std::abs(sample));
         return peak;
-    }
-
-    /// What this program prints when it runs with `arguments`.
-    static QByteArray run(const QStringList& arguments)
-    {
-        QProcess child;
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("SDL_AUDIODRIVER"), QStringLiteral("disk"));
-        child.setProcessEnvironment(environment);
-        child.start(QCoreApplication::applicationFilePath(), arguments);
-        if (!child.waitForFinished(20'000) || child.exitCode() != 0)
-            return "the child failed: " + child.readAllStandardError();
-        return child.readAllStandardOutput();
     }
 };
 
@@ -155,12 +111,8 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == QLatin1String("--turn")) {
-        turnACard(arguments.value(2), arguments.value(3));
-        return 0;
-    }
-    if (arguments.value(1) == QLatin1String("--play-all")) {
-        playAll(arguments.value(2), arguments.value(3));
+    if (arguments.value(1).startsWith(u"--")) {
+        (arguments[1] == u"--turn" ? turnACard : playAGame)(arguments.value(2), arguments.value(3));
         return 0;
     }
     SoundEffectsTest test;

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QFile>
+#include <csignal>
 #include <filesystem>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <tuple>
 #include <unistd.h>
@@ -56,4 +58,21 @@ public:
 
 private:
     const bool m_isRoot = ::geteuid() == 0;
+};
+
+/// While this lives, no file grows beyond `bytes`, as on a full disk.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit full{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(FullDisk)
+
+private:
+    rlimit m_before{};
 };

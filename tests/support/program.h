@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/files.h"
+
 #include <QCoreApplication>
-#include <QFile>
 #include <QProcess>
 #include <QTest>
 #include <csignal>
@@ -40,8 +41,8 @@ public:
     /// Whether the window is as good as up: a signal to end is answered in order.
     [[nodiscard]] bool isUp() const
     {
-        QFile file(QStringLiteral("/proc/%1/status").arg(process.processId()));
-        const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        const QByteArray status =
+            contentsOf(QStringLiteral("/proc/%1/status").arg(process.processId()));
         const QByteArray mask = status.mid(status.indexOf("SigCgt:") + 8, 16);
         return (mask.toULongLong(nullptr, 16) >> (SIGTERM - 1) & 1U) != 0;
     }

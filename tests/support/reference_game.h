@@ -4,10 +4,14 @@
 
 #include "game/memory_game.h"
 #include "platform/localized_text.h"
+#include "settings/settings_keys.h"
 
 #include <QHash>
 #include <algorithm>
 #include <deque>
+#include <variant>
+
+using namespace Qt::StringLiterals;
 
 /// The rules of the game once more, as plain as can be: no events, files, pictures or
 /// time. Written from the rules alone, it is what the real game is held against.
@@ -17,27 +21,18 @@
 class ReferenceGame {
 public:
     using Member = MemoryGame::Member;
-    struct Card {
-        QUuid id{};
-        QUuid pair{};
-        bool isFaceUp = false;
-        bool isMatched = false;
-    };
     struct TurnBack {
         std::size_t first = 0;
         std::size_t second = 0;
         int missedPlayer = 0;
     };
     /// What waits in the main queue: an alert, or a turn-back that has fallen due.
-    struct Task {
-        QString alert{};
-        std::optional<TurnBack> turnBack{};
-    };
+    using Task = std::variant<QString, TurnBack>;
 
     // The surroundings.
-    std::int64_t amountCards = 1;
-    std::int64_t amountRounds = 1;
-    QString deckSetting = QStringLiteral("Cyberpunk");
+    QMap<QString, std::int64_t> settings{{SettingsKeys::AmountCards, 1},
+                                         {SettingsKeys::AmountRounds, 1}};
+    QString deckSetting = u"Cyberpunk"_s;
     QHash<QString, int> deckSizes{};
     HighscoreEntries file{};
     HighscoreEntries removed{};
@@ -45,8 +40,7 @@ public:
     std::optional<TurnBack> delayed{};
     QStringList alerts{};
     QByteArray log{};
-    int gameIsActive = 0;
-    int posts = 0;
+    QList<int> posts{};                ///< What the setting was at each.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
 
@@ -54,7 +48,7 @@ public:
     QString playerName{}, playerOneName{}, playerTwoName{}, winnerText{};
     QString headerText = localizedText("enter_name");
     HighscoreEntries bestTimeScores{}, bestFailureScores{}, bestVersusScores{};
-    std::vector<Card> cards{};
+    MemoryCards cards{};
     std::int64_t currentRound = 1, elapsedSeconds = 0, failedAttempts = 0;
     bool gameCompleted = false, isGameActive = false, isVersusMode = false;
     int currentPlayerIndex = 0;
@@ -76,9 +70,12 @@ public:
     }
     [[nodiscard]] std::int64_t layout() const
     {
-        return amountCards < 1 ? 1 : amountCards > 6 ? 6 : amountCards;
+        return std::clamp<std::int64_t>(settings[SettingsKeys::AmountCards], 1, 6);
     }
-    [[nodiscard]] std::int64_t rounds() const { return amountRounds < 1 ? 1 : amountRounds; }
+    [[nodiscard]] std::int64_t rounds() const
+    {
+        return std::max<std::int64_t>(settings[SettingsKeys::AmountRounds], 1);
+    }
     [[nodiscard]] std::array<QString, 2> names() const
     {
         const QString one = playerOneName.trimmed();
@@ -111,7 +108,7 @@ public:
         assign(playerScores, {0, 0}, Member::playerScores);
         assign(currentPlayerIndex, 0, Member::currentPlayerIndex);
         assign(isGameActive, true, Member::isGameActive);
-        publish(1);
+        posts << 1;
         clearAttempt();
         updateHeaderForCurrentTurn();
         loadRound(currentRound);
@@ -130,10 +127,10 @@ public:
         updateHeaderForCurrentTurn();
         const int pairs = pairsPerRound();
         const QString deck = deckSetting.trimmed();
-        const QString prefix = QStringLiteral("iPhoto: ");
+        const QString prefix = u"iPhoto: "_s;
         const bool isAlbum =
             deck.startsWith(prefix) && !deck.mid(prefix.size()).trimmed().isEmpty();
-        const bool isLibrary = deck == QStringLiteral("iPhoto");
+        const bool isLibrary = deck == u"iPhoto"_s;
         if (isAlbum || isLibrary)
             alert("iphoto_access_denied", "iphoto_access_denied_info"); // the test's library
         else if (deck.isEmpty())
@@ -148,9 +145,9 @@ public:
                             : localizedText("not_enough_images_for_round", {pairs, round});
             header(message);
             assign(isGameActive, false, Member::isGameActive);
-            publish(0);
+            posts << 0;
             assign(cards, {}, Member::cards);
-            queue.push_back({QStringLiteral("Paircade|") + message + QStringLiteral("|OK"), {}});
+            queue.push_back(u"Paircade|"_s + message + u"|OK"_s);
             return;
         }
         dealtPairs = pairs;
@@ -161,7 +158,7 @@ public:
     {
         if (!isGameActive || isCheckingPair)
             return;
-        const auto card = std::ranges::find(cards, id, &Card::id);
+        const auto card = std::ranges::find(cards, id, &MemoryCard::id);
         if (card == cards.end() || card->isFaceUp || card->isMatched)
             return;
         const auto position = std::size_t(card - cards.begin());
@@ -175,7 +172,7 @@ public:
             return;
         }
         const std::size_t first = *firstSelectedIndex;
-        if (cards[first].pair != card->pair) {
+        if (cards[first].pairID != card->pairID) {
             isCheckingPair = true;
             assign(failedAttempts, failedAttempts + 1, Member::failedAttempts);
             delayed = TurnBack{first, position, currentPlayerIndex};
@@ -190,7 +187,7 @@ public:
             header(localizedText("player_found_pair", {toMove()}));
         }
         clearAttempt();
-        if (std::ranges::all_of(cards, &Card::isMatched))
+        if (std::ranges::all_of(cards, &MemoryCard::isMatched))
             advanceToNextRoundIfNeeded();
     }
 
@@ -208,17 +205,16 @@ public:
     {
         assign(gameCompleted, true, Member::gameCompleted);
         assign(isGameActive, false, Member::isGameActive);
-        publish(0);
+        posts << 0;
         timer = false;
         store();
         updateLists();
         const auto [one, two] = playerScores;
-        const QString seconds = QStringLiteral("%1:%2")
-                                    .arg(elapsedSeconds / 60, 2, 10, QLatin1Char('0'))
-                                    .arg(elapsedSeconds % 60, 2, 10, QLatin1Char('0'));
+        const auto digits = [](std::int64_t n) { return u"%1"_s.arg(n, 2, 10, QChar(u'0')); };
+        const QString time = digits(elapsedSeconds / 60) + u':' + digits(elapsedSeconds % 60);
         assign(winnerText,
                !isVersusMode
-                   ? localizedText("singleplayer_result", {soloName(), seconds, failedAttempts})
+                   ? localizedText("singleplayer_result", {soloName(), time, failedAttempts})
                : one > two ? localizedText("player_wins_score", {names()[0], one, two})
                : two > one ? localizedText("player_wins_score", {names()[1], two, one})
                            : localizedText("draw_score", {one, two}),
@@ -238,7 +234,7 @@ public:
         header(QString());
         clearAttempt();
         assign(isGameActive, false, Member::isGameActive);
-        publish(0);
+        posts << 0;
     }
 
     /// The clock's timer fires.
@@ -252,56 +248,48 @@ public:
     void turnBackFallsDue()
     {
         if (delayed)
-            queue.push_back({{}, *std::exchange(delayed, {})});
+            queue.push_back(*std::exchange(delayed, {}));
     }
 
     /// The main loop comes round.
     void runQueue()
     {
         for (; !queue.empty(); queue.pop_front()) {
-            if (const auto& step = queue.front().turnBack)
-                turnBack(*step);
+            if (const auto* const miss = std::get_if<TurnBack>(&queue.front()))
+                turnBack(*miss);
             else
-                alerts << queue.front().alert;
+                alerts << std::get<QString>(queue.front());
         }
     }
 
     /// The lists of the current settings and mode, from the file.
     void updateLists()
     {
-        HighscoreEntries kept;
-        std::ranges::copy_if(file, std::back_inserter(kept), [this](const HighscoreEntry& entry) {
-            return entry.amountCards == layout() && entry.amountRounds == rounds() &&
-                   entry.gameMode ==
-                       (isVersusMode ? QLatin1String("versus") : QLatin1String("solo"));
-        });
         using Entry = const HighscoreEntry&;
-        const auto best = [&kept](auto key) {
-            HighscoreEntries ranked = kept;
-            std::ranges::stable_sort(ranked, {}, key);
-            ranked.resize(std::min<std::size_t>(ranked.size(), 10));
-            return ranked;
+        const auto best = [this](auto key) {
+            HighscoreEntries kept;
+            std::ranges::copy_if(file, std::back_inserter(kept), [this](Entry entry) {
+                return entry.amountCards == layout() && entry.amountRounds == rounds() &&
+                       entry.gameMode == mode();
+            });
+            std::ranges::stable_sort(kept, {}, key);
+            kept.resize(std::min<std::size_t>(kept.size(), 10));
+            return kept;
         };
-        if (isVersusMode) {
-            assign(bestVersusScores, best([](Entry entry) {
-                       return std::pair(-std::abs(entry.firstPlayerScore.value_or(0) -
-                                                  entry.secondPlayerScore.value_or(0)),
-                                        entry.elapsedSeconds);
-                   }),
-                   Member::bestVersusScores);
-            assign(bestTimeScores, {}, Member::bestTimeScores);
-            assign(bestFailureScores, {}, Member::bestFailureScores);
-            return;
-        }
-        assign(bestTimeScores, best([](Entry entry) {
-                   return std::pair(entry.elapsedSeconds, entry.failedAttempts);
-               }),
+        const auto time = [](Entry e) { return std::pair(e.elapsedSeconds, e.failedAttempts); };
+        const auto failures = [](Entry e) { return std::pair(e.failedAttempts, e.elapsedSeconds); };
+        const auto lead = [](Entry e) {
+            return std::pair(-std::abs(*e.firstPlayerScore - *e.secondPlayerScore),
+                             e.elapsedSeconds);
+        };
+        if (isVersusMode)
+            assign(bestVersusScores, best(lead), Member::bestVersusScores);
+        assign(bestTimeScores, isVersusMode ? HighscoreEntries() : best(time),
                Member::bestTimeScores);
-        assign(bestFailureScores, best([](Entry entry) {
-                   return std::pair(entry.failedAttempts, entry.elapsedSeconds);
-               }),
+        assign(bestFailureScores, isVersusMode ? HighscoreEntries() : best(failures),
                Member::bestFailureScores);
-        assign(bestVersusScores, {}, Member::bestVersusScores);
+        if (!isVersusMode)
+            assign(bestVersusScores, {}, Member::bestVersusScores);
     }
 
     void resetHighscores()
@@ -327,14 +315,7 @@ private:
     void turn(bool& side, bool value) { assign(side, value, Member::cards); }
     void alert(const char* message, const char* information)
     {
-        queue.push_back({localizedText(message) + u'|' + localizedText(information) + u'|' +
-                             localizedText("ok"),
-                         {}});
-    }
-    void publish(int status)
-    {
-        gameIsActive = status;
-        ++posts;
+        queue.push_back(localizedText(message) + u'|' + localizedText(information) + u"|OK"_s);
     }
     void clearAttempt()
     {
@@ -345,7 +326,7 @@ private:
     void withdrawTurnBack()
     {
         delayed.reset();
-        std::erase_if(queue, [](const Task& task) { return task.turnBack.has_value(); });
+        std::erase_if(queue, &std::holds_alternative<TurnBack, QString, TurnBack>);
     }
     void turnBack(const TurnBack& miss)
     {
@@ -359,6 +340,7 @@ private:
             header(localizedText("player_turn", {toMove()}));
         }
     }
+    [[nodiscard]] QString mode() const { return isVersusMode ? u"versus"_s : u"solo"_s; }
     [[nodiscard]] QString soloName() const
     {
         const QString name = playerName.trimmed();
@@ -367,7 +349,7 @@ private:
     void store()
     {
         HighscoreEntry entry;
-        entry.gameMode = isVersusMode ? QStringLiteral("versus") : QStringLiteral("solo");
+        entry.gameMode = mode();
         entry.playerName = isVersusMode ? names()[0] : soloName();
         entry.elapsedSeconds = elapsedSeconds;
         entry.failedAttempts = failedAttempts;

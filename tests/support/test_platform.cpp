@@ -6,10 +6,10 @@
 #include "platform/user_folders.h"
 #include "settings/default_settings.h"
 #include "settings/settings_keys.h"
+#include "support/files.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 
 TestPlatform::TestPlatform(Alerts* alerts, const QString& language)
     : m_alerts(alerts == nullptr ? alertLog : *alerts)
@@ -17,7 +17,7 @@ TestPlatform::TestPlatform(Alerts* alerts, const QString& language)
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(QStringLiteral("config"))));
     defaults = std::make_unique<UserDefaults>(settingsFile());
-    usePlatformWith(ApplicationBundle::ofRunningProgram().resourceFolder().value());
+    useBuiltResources();
     createDefaultSettings(*defaults);
     defaults->setInteger(SettingsKeys::PlaySounds, 0);
     if (!loadCatalogue(m_texts, *m_bundle->resourceFolder() + QStringLiteral("/translations"),
@@ -41,7 +41,7 @@ QStringList TestPlatform::languages()
     return languages;
 }
 
-void TestPlatform::usePlatformWith(const QString& resourceFolder)
+void TestPlatform::useResources(const QString& resourceFolder)
 {
     m_bundle = std::make_unique<ApplicationBundle>(resourceFolder);
     m_platform = std::make_unique<Platform>(Platform{*defaults, *m_bundle, mainQueue, notifications,
@@ -49,14 +49,9 @@ void TestPlatform::usePlatformWith(const QString& resourceFolder)
     usePlatform(m_platform.get());
 }
 
-void TestPlatform::useResources(const QString& resourceFolder)
-{
-    usePlatformWith(resourceFolder);
-}
-
 void TestPlatform::useBuiltResources()
 {
-    usePlatformWith(ApplicationBundle::ofRunningProgram().resourceFolder().value());
+    useResources(ApplicationBundle::ofRunningProgram().resourceFolder().value());
 }
 
 QString TestPlatform::highscoreFile() const
@@ -67,13 +62,10 @@ QString TestPlatform::highscoreFile() const
 void TestPlatform::writeHighscoreFile(const QByteArray& contents) const
 {
     QDir().mkpath(home.filePath(QStringLiteral("data/Paircade")));
-    QFile file(highscoreFile());
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("the test cannot write its file");
+    writeFile(highscoreFile(), contents);
 }
 
 QByteArray TestPlatform::readHighscoreFile() const
 {
-    QFile file(highscoreFile());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return contentsOf(highscoreFile());
 }

@@ -113,8 +113,6 @@ public:
     OpenedFiles openedFiles{};
 
 private:
-    void usePlatformWith(const QString& resourceFolder);
-
     Alerts& m_alerts;
     std::unique_ptr<ApplicationBundle> m_bundle{};
     std::unique_ptr<Platform> m_platform{};
