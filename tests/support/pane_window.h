@@ -4,31 +4,26 @@
 
 #include "platform/user_folders.h"
 #include "settings/preferences/preferences.h"
+#include "support/files.h"
 #include "support/game_window.h"
 
 #include <QComboBox>
-#include <QFile>
 #include <QPointer>
 #include <QWheelEvent>
 
 inline void writeSettings(const QByteArray& lines)
 {
-    QFile file(settingsFile());
-    if (!file.open(QIODevice::WriteOnly) || file.write("[General]\n" + lines) < 0)
-        qFatal("the test cannot write the settings");
+    writeFile(settingsFile(), "[General]\n" + lines);
 }
 
 /// What stands under `key` in the file, as another program would find it.
 inline QByteArray stored(const QByteArray& key)
 {
-    QFile file(settingsFile());
-    if (!file.open(QIODevice::ReadOnly))
-        return "no file";
-    for (const QByteArray& line : file.readAll().split('\n')) {
+    for (const QByteArray& line : contentsOf(settingsFile()).split('\n')) {
         if (line.startsWith(key + '='))
             return line.mid(key.size() + 1);
     }
-    return "no key";
+    return "nothing";
 }
 
 /// The preferences over the real game, opened from the main window by their shortcut.
