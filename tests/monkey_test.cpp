@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Random mouse and keys over all that has a window: nothing crashes, hangs or complains.
 //
-// PAIRCADE_SECONDS sets how long, PAIRCADE_SEED where to begin. A seed does not repeat a
-// run, which depends on time; the last actions before a failure are told instead.
+// PAIRCADE_SECONDS sets how long. What happens depends on time, so that no seed would
+// repeat a run; the last actions before a failure are told instead.
 #include "app/termination.h"
-#include "platform/widgets/access_question.h"
 #include "settings/settings_keys.h"
 #include "support/game_window.h"
 #include "support/output_of.h"
+#include "support/real_photos.h"
 
 #include <QFileDialog>
 #include <QMenu>
@@ -50,12 +50,10 @@ class Monkey : public QObject {
     Q_OBJECT
 
 public:
-    Monkey(QRandomGenerator& random, std::map<QString, int>& seen, qint64 milliseconds)
-        : m_random(random)
-        , m_seen(seen)
+    Monkey(std::map<QString, int>& seen, qint64 milliseconds)
+        : m_seen(seen)
         , m_window([this](TestPlatform& platform) { prepare(platform); })
     {
-        usePlatform(&m_services);
         connect(&m_window.game(), &MemoryGame::changed, this, [this](MemoryGame::Member member) {
             if (member == MemoryGame::Member::isGameActive && m_window.game().isGameActive())
                 ++m_seen[u"games of %1 pairs"_s.arg(m_window.game().pairsPerRound())];
@@ -69,7 +67,7 @@ public:
     [[nodiscard]] GameWindow& window() { return m_window; }
 
 private:
-    int draw(int bound) { return int(m_random.bounded(bound)); }
+    static int draw(int bound) { return int(QRandomGenerator::global()->bounded(bound)); }
     template <class List>
     auto oneOf(const List& list)
     {
@@ -132,10 +130,8 @@ private:
             play();
         else if (dice < 600)
             point(*top);
-        else if (dice < 930)
-            press(*top, key());
         else if (dice < 950)
-            drag(*top);
+            press(*top, key());
         else if (dice < 970)
             turnWheel(*top);
         else if (dice < 996)
@@ -150,19 +146,16 @@ private:
     void play()
     {
         MemoryGame& game = m_window.game();
-        if (!game.isGameActive() || game.cards().empty()) {
-            if (auto* const start = m_window.window().findChild<QAbstractButton*>(
-                    game.isVersusMode() ? u"startVersusButton"_s : u"startButton"_s);
-                start != nullptr && start->isVisible())
-                m_window.click(*start);
-            return note(u"start"_s);
+        QString target = game.isVersusMode() ? u"startVersusButton"_s : u"startButton"_s;
+        if (game.isGameActive() && !game.cards().empty()) {
+            const auto first = game.firstSelectedIndex();
+            target =
+                u"card%1"_s.arg(first ? otherCard(game, *first, draw(4) > 0) : hiddenCard(game));
         }
-        const auto first = game.firstSelectedIndex();
-        const std::size_t partner = first ? otherCard(game, *first, draw(4) > 0) : hiddenCard(game);
-        if (auto* const tile =
-                m_window.window().findChild<QAbstractButton*>(u"card%1"_s.arg(partner)))
-            m_window.click(*tile);
-        note(u"card %1"_s.arg(partner));
+        note(target);
+        auto* const button = m_window.window().findChild<QAbstractButton*>(target);
+        if (button != nullptr && button->isVisible())
+            m_window.click(*button);
     }
 
     void point(QWidget& top)
@@ -172,29 +165,24 @@ private:
         children.removeIf([](const QWidget* widget) { return !widget->isVisible(); });
         if (!children.isEmpty() && draw(6))
             target = oneOf(children);
-        const QPoint place = target->mapTo(
-            &top, QPoint(draw(std::max(1, target->width())), draw(std::max(1, target->height()))));
-        note(
-            u"%1 %2"_s.arg(QLatin1String(target->metaObject()->className()), target->objectName()));
+        const QPoint place = target->mapTo(&top, placeIn(*target));
+        const QString kind = QLatin1String(target->metaObject()->className());
+        note(kind + u' ' + target->objectName());
         ++m_seen[u"clicks in a "_s + QLatin1String(top.metaObject()->className())];
-        QWindow* const window = top.windowHandle();
+        const QPointer<QWindow> window = top.windowHandle();
         const auto button = draw(12) ? Qt::LeftButton : Qt::RightButton;
-        if (draw(8))
-            QTest::mouseClick(window, button, {}, place);
-        else
-            QTest::mouseDClick(window, button, {}, place);
+        if (draw(8) == 0)
+            return QTest::mouseDClick(window, button, {}, place);
+        QTest::mousePress(window, button, {}, place);
+        for (int drags = draw(12) ? 0 : 3; drags > 0 && window; --drags)
+            QTest::mouseMove(window, placeIn(top));
+        if (window)
+            QTest::mouseRelease(window, button, {}, place);
     }
 
-    void drag(QWidget& top)
+    static QPoint placeIn(const QWidget& widget)
     {
-        note(u"drag"_s);
-        const auto place = [&] { return QPoint(draw(top.width()), draw(top.height())); };
-        const QPointer<QWindow> window = top.windowHandle();
-        QTest::mousePress(window, Qt::LeftButton, {}, place());
-        for (int i = 0; i < 3 && window; ++i)
-            QTest::mouseMove(window, place());
-        if (window)
-            QTest::mouseRelease(window, Qt::LeftButton, {}, place());
+        return {draw(std::max(1, widget.width())), draw(std::max(1, widget.height()))};
     }
 
     void turnWheel(QWidget& top)
@@ -285,22 +273,10 @@ private:
         }
     }
 
-    QRandomGenerator& m_random;
     std::map<QString, int>& m_seen;
     GameWindow m_window;
-    // Real photos, the decks being albums, and the real question about them.
-    AccessQuestion m_question{m_window.resources() + u"/Cards"_s};
-    PhotoLibrary m_photos{m_window.platform.photoAccess, &m_question,
-                          m_window.resources() + u"/Cards"_s,
-                          PhotoLibrary::helperOfRunningProgram()};
-    Platform m_services{*m_window.platform.defaults,
-                        platform().bundle,
-                        m_window.platform.mainQueue,
-                        m_window.platform.notifications,
-                        m_window.platform.audio,
-                        m_photos,
-                        m_window.alerts,
-                        m_window.platform.openedFiles};
+    RealPhotos m_photos{m_window.platform, m_window.alerts, // the decks being albums
+                        m_window.resources() + u"/Cards"_s};
     int m_depth = 0;
 };
 
@@ -315,11 +291,6 @@ private Q_SLOTS:
         bool isSet = false;
         const int asked = qEnvironmentVariableIntValue("PAIRCADE_SECONDS", &isSet);
         const QDeadlineTimer end(std::chrono::seconds(isSet ? asked : 5));
-        const QByteArray seedSet = qgetenv("PAIRCADE_SEED");
-        const quint32 seed =
-            seedSet.isEmpty() ? QRandomGenerator::global()->generate() : seedSet.toUInt();
-        qInfo("PAIRCADE_SEED=%u", seed);
-        QRandomGenerator random(seed);
         std::map<QString, int> seen;
         for (const int signal : {SIGSEGV, SIGABRT, SIGALRM})
             (void)std::signal(signal, tellAndDie);
@@ -330,7 +301,7 @@ private Q_SLOTS:
             log += outputOf([&] {
                 const Termination termination;
                 // An end in a while, so that each layout and setting has its turn.
-                Monkey monkey(random, seen, std::min<qint64>(end.remainingTime(), 8000));
+                Monkey monkey(seen, std::min<qint64>(end.remainingTime(), 8000));
                 QApplication::exec();
                 TestPlatform& platform = monkey.window().platform;
                 monkey.window().delegate.applicationWillTerminate();
