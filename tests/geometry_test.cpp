@@ -7,15 +7,10 @@
 #include "support/game_window.h"
 #include "support/texts_fit.h"
 
-#include <QAbstractButton>
 #include <QFontDatabase>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QScreen>
 #include <QScrollArea>
-#include <array>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -185,25 +180,30 @@ private:
                 writeResults(platform, layout, count, name);
             },
             language);
-        const QRect screen = m_window->window().screen()->geometry();
         QTRY_COMPARE(m_window->window().isFullScreen(), isFullScreen);
         if (isFullScreen)
-            QTRY_COMPARE(m_window->window().geometry(), screen);
-        QVERIFY(screen.contains(m_window->window().geometry()));
+            QTRY_COMPARE(m_window->window().geometry(), m_window->screen());
+        QVERIFY(m_window->screen().contains(m_window->window().geometry()));
     }
 
     void typeNames(bool isVersus, const QString& name)
     {
-        for (const char* const field : {"playerOneName", "playerTwoName"})
-            m_window->child<QLineEdit>(QLatin1String(isVersus ? field : "playerName")).insert(name);
+        for (QWidget* const control : formOf(isVersus)) {
+            if (auto* const field = qobject_cast<QLineEdit*>(control))
+                field->insert(name);
+        }
         QCoreApplication::processEvents();
     }
 
     QWidget& child(const char* name) { return m_window->child<QWidget>(QLatin1String(name)); }
-    QWidget& startButton(bool isVersus)
+    /// The controls of a form, from the top to its button.
+    QWidgetList formOf(bool isVersus)
     {
-        return child(isVersus ? "startVersusButton" : "startButton");
+        if (isVersus)
+            return {&child("playerOneName"), &child("playerTwoName"), &child("startVersusButton")};
+        return {&child("playerName"), &child("startButton")};
     }
+    QWidget& startButton(bool isVersus) { return *formOf(isVersus).constLast(); }
     ContentView& screen() { return *m_window->delegate.contentView(); }
     QRect place(const QWidget& widget)
     {
@@ -227,10 +227,8 @@ private:
         QCOMPARE(title.text(), isActive ? m_window->game().headerText() : QString());
 
         measureSidebar(isVersus, isActive, hasNames);
-        for (const char* const name : {"playerName", "startButton"})
-            QCOMPARE(child(name).isVisible(), !isActive && !isVersus);
-        for (const char* const name : {"playerOneName", "playerTwoName", "startVersusButton"})
-            QCOMPARE(child(name).isVisible(), !isActive && isVersus);
+        for (QWidget* const control : formOf(true) + formOf(false))
+            QCOMPARE(control->isVisible(), !isActive && formOf(isVersus).contains(control));
         QCOMPARE(child("gameBoard").isVisible(), isActive);
         if (isActive)
             measureBoard();
@@ -272,18 +270,14 @@ private:
     /// The controls of the form lie in the middle of the main area, 16 apart.
     void measureForm(bool isVersus, bool hasNames)
     {
-        const QWidgetList column =
-            isVersus
-                ? QWidgetList{&child("playerOneName"), &child("playerTwoName"), &startButton(true)}
-                : QWidgetList{&child("playerName"), &startButton(false)};
-        const double middle = 236 + (screen().width() - 236) / 2.0;
+        const QWidgetList column = formOf(isVersus);
         int y = place(*column.constFirst()).top();
-        QVERIFY(qAbs((y + place(*column.constLast()).bottom() + 1) / 2.0 -
-                     (60 + (screen().height() - 60) / 2.0)) <= 0.5);
+        const int bottom = place(*column.constLast()).bottom() + 1;
+        QVERIFY(qAbs(y + bottom - (60 + screen().height())) <= 1);
         for (const QWidget* const control : column) {
             const QRect rect = place(*control);
             QCOMPARE(rect.top(), y);
-            QVERIFY(qAbs(rect.left() + rect.width() / 2.0 - middle) <= 0.5);
+            QVERIFY(qAbs(rect.left() + rect.right() + 1 - (236 + screen().width())) <= 1);
             y = rect.bottom() + 1 + 16;
             if (control == column.constLast())
                 continue;
@@ -311,10 +305,8 @@ private:
         for (int i = 0; i < columns * rows; ++i) {
             const QRect card = place(m_window->card(std::size_t(i)));
             // Half a point for the grid's corner, half for the card's place in it.
-            const int column = i % columns;
-            const int row = i / columns;
-            QVERIFY(qAbs(card.left() - (left + column * (edge + 20))) <= 1);
-            QVERIFY(qAbs(card.top() - (top + row * (edge + 20))) <= 1);
+            QVERIFY(qAbs(card.left() - (left + i % columns * (edge + 20))) <= 1);
+            QVERIFY(qAbs(card.top() - (top + i / columns * (edge + 20))) <= 1);
             QVERIFY(card.width() == card.height() && qAbs(card.width() - edge) <= 0.5);
         }
     }

@@ -98,12 +98,7 @@ private:
         if (m_depth >= actionsInEachOther)
             return;
         ++m_depth;
-        const auto before = trail.size();
         choose();
-        if (trail.size() > before)
-            ++m_seen[u"actions"_s];
-        while (trail.size() > 40)
-            trail.removeFirst();
         --m_depth;
     }
 
@@ -116,14 +111,13 @@ private:
         if (shown.isEmpty())
             return;
         QWidget* top = oneOf(shown);
-        if (QWidget* const popup = QApplication::activePopupWidget(); popup && draw(10))
-            top = popup;
-        else if (QWidget* const modal = QApplication::activeModalWidget(); modal && draw(10))
-            top = modal;
+        QWidget* const modal = QApplication::activeModalWidget();
+        QWidget* const popup = QApplication::activePopupWidget();
+        if (QWidget* const first = popup != nullptr ? popup : modal; first != nullptr && draw(10))
+            top = first;
         // Lest it delete a file of this machine.
-        if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr)
-            return press(*QApplication::activeModalWidget(),
-                         draw(2) ? Qt::Key_Escape : Qt::Key_Return);
+        if (qobject_cast<QFileDialog*>(modal) != nullptr)
+            return press(*modal, draw(2) ? Qt::Key_Escape : Qt::Key_Return);
 
         const int dice = draw(1000);
         if (dice < 380)
@@ -140,7 +134,11 @@ private:
             leave();
     }
 
-    void note(const QString& what) { trail << what; }
+    void note(const QString& what)
+    {
+        trail = trail.mid(trail.size() - 40) << what;
+        ++m_seen[u"actions"_s];
+    }
 
     /// Something sensible: a game goes on, or one is started.
     void play()
@@ -166,8 +164,7 @@ private:
         if (!children.isEmpty() && draw(6))
             target = oneOf(children);
         const QPoint place = target->mapTo(&top, placeIn(*target));
-        const QString kind = QLatin1String(target->metaObject()->className());
-        note(kind + u' ' + target->objectName());
+        note(QLatin1String(target->metaObject()->className()) + u' ' + target->objectName());
         ++m_seen[u"clicks in a "_s + QLatin1String(top.metaObject()->className())];
         const QPointer<QWindow> window = top.windowHandle();
         const auto button = draw(12) ? Qt::LeftButton : Qt::RightButton;
@@ -198,19 +195,15 @@ private:
     QKeyCombination key()
     {
         using namespace Qt;
-        if (draw(3) == 0)
-            return {Key(Key_A + draw(26))};
-        static constexpr std::array keys{
-            Key_Tab,       Key_Tab,    Key_Tab,    Key_Backtab, Key_Space,  Key_Space,
-            Key_Return,    Key_Return, Key_Escape, Key_Escape,  Key_Up,     Key_Down,
-            Key_Left,      Key_Right,  Key_Home,   Key_End,     Key_PageUp, Key_Delete,
-            Key_Backspace, Key_F1,     Key_F10,    Key_F11,     Key_Alt,    Key_Menu};
-        if (draw(4))
-            return {oneOf(keys)};
-        static constexpr std::array chords{CTRL | Key_N, CTRL | Key_Comma, CTRL | Key_Comma,
-                                           ALT | Key_G,  CTRL | Key_A,     CTRL | Key_X,
-                                           CTRL | Key_V, ALT | Key_V,      ALT | Key_H};
-        return oneOf(chords);
+        static constexpr std::initializer_list<QKeyCombination> keys{
+            Key_Tab,      Key_Tab,      Key_Tab,          Key_Backtab,      Key_Space,
+            Key_Space,    Key_Return,   Key_Return,       Key_Escape,       Key_Escape,
+            Key_Up,       Key_Down,     Key_Left,         Key_Right,        Key_Home,
+            Key_End,      Key_PageUp,   Key_Delete,       Key_Backspace,    Key_F1,
+            Key_F10,      Key_F11,      Key_Alt,          Key_Menu,         CTRL | Key_N,
+            CTRL | Key_A, CTRL | Key_X, CTRL | Key_Comma, CTRL | Key_Comma, ALT | Key_G,
+            CTRL | Key_V, ALT | Key_V,  ALT | Key_H};
+        return draw(3) == 0 ? QKeyCombination(Key(Key_A + draw(26))) : oneOf(keys);
     }
 
     void press(QWidget& top, QKeyCombination combination)
@@ -221,56 +214,43 @@ private:
             m_window.repeat(combination.key(), {});
     }
 
+    using Deeds = std::vector<std::pair<QString, std::function<void()>>>;
+
+    void doOneOf(const Deeds& deeds)
+    {
+        const auto& [name, deed] = deeds[std::size_t(draw(int(deeds.size())))];
+        note(name);
+        deed();
+    }
+
     /// What others do to the game: the desktop, other programs, the disk.
     void disturb(QWidget& top)
     {
         TestPlatform& platform = m_window.platform;
-        switch (draw(8)) {
-        case 0:
-            note(u"minimise"_s);
-            return top.setWindowState(top.windowState() ^ Qt::WindowMinimized);
-        case 1:
-            note(u"resize"_s);
-            return top.windowHandle()->resize(draw(2000) + 1, draw(1500) + 1);
-        case 2:
-            note(u"garbage as results"_s);
-            return platform.writeHighscoreFile(draw(2) ? "[{" : "[]");
-        case 3:
-            note(u"deck"_s);
-            return platform.defaults->setString(
-                SettingsKeys::CardDeck,
-                oneOf(std::array{u"Cyberpunk"_s, u"Cyberpunk"_s, u"Kids"_s, u"None"_s, u""_s,
-                                 u"iPhoto"_s, u"iPhoto: Kids"_s, u"iPhoto: Sea"_s}));
-        case 4:
-            note(u"second start"_s);
-            return m_window.delegate.activate();
-        case 5:
-            note(u"alert"_s);
-            return m_window.game().showLocalizedAlert("enter_name");
-        case 6:
-            note(u"paint"_s);
-            return void(m_window.window().grab());
-        default:
-            note(u"close a window"_s);
-            if (&top != &m_window.window())
-                top.close();
-        }
+        doOneOf({
+            {u"minimise"_s, [&] { top.setWindowState(top.windowState() ^ Qt::WindowMinimized); }},
+            {u"resize"_s, [&] { top.windowHandle()->resize(draw(2000) + 1, draw(1500) + 1); }},
+            {u"results"_s, [&] { platform.writeHighscoreFile(draw(2) ? "[{" : "[]"); }},
+            {u"deck"_s, [&] { platform.defaults->setString(SettingsKeys::CardDeck, deck()); }},
+            {u"second start"_s, [&] { m_window.delegate.activate(); }},
+            {u"alert"_s, [&] { m_window.game().showLocalizedAlert("enter_name"); }},
+            {u"paint"_s, [&] { m_window.window().grab(); }},
+            {u"close"_s, [&] { (void)(&top == &m_window.window() || top.close()); }},
+        });
+    }
+
+    QString deck()
+    {
+        return oneOf(
+            u"Cyberpunk|Cyberpunk|Kids|None||iPhoto|iPhoto: Kids|iPhoto: Sea"_s.split(u'|'));
     }
 
     void leave()
     {
         ++m_seen[u"ends of the program"_s];
-        switch (draw(3)) {
-        case 0:
-            note(u"SIGTERM"_s);
-            return void(std::raise(SIGTERM));
-        case 1:
-            note(u"quit"_s);
-            return press(m_window.window(), Qt::CTRL | Qt::Key_Q);
-        default:
-            note(u"close"_s);
-            m_window.window().close();
-        }
+        doOneOf({{u"SIGTERM"_s, [] { (void)std::raise(SIGTERM); }},
+                 {u"quit"_s, [this] { press(m_window.window(), Qt::CTRL | Qt::Key_Q); }},
+                 {u"leave"_s, [this] { m_window.window().close(); }}});
     }
 
     std::map<QString, int>& m_seen;

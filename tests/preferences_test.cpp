@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The preferences driven by mouse, wheel and keyboard; the deck has a test of its own.
+#include "game/game_status.h"
 #include "highscores/highscore_file.h"
 #include "support/pane_window.h"
 
@@ -14,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Where the handle of the slider is in its window.
 QPoint handleOf(const QSlider& slider)
 {
     QStyleOptionSlider option;
@@ -103,12 +105,17 @@ private Q_SLOTS:
                                                            .amountCards = 4,
                                                            .amountRounds = 1}}));
         });
+        int posts = 0;
+        window.platform.notifications.observe(gameLayoutChanged, window.pane,
+                                              [&posts] { ++posts; });
         QVERIFY(window.game().bestTimeScores().empty());
         window.key(Qt::Key_Tab);
         window.key(Qt::Key_Up);
         QCOMPARE(stored("AmountCards"), "4"_ba);
+        QCOMPARE(posts, 1);
         QCOMPARE(window.pane->cards_label()->text(), u"6 × 4, 12 pairs"_s);
         QTRY_COMPARE(window.delegate.contentView()->size(), QSize(1320, 760));
+        QCOMPARE(window.window().geometry().center(), window.screen().center());
         QCOMPARE(window.text(u"bestTimes1"_s), u"1. Mia – 00:09"_s);
     }
 

@@ -13,8 +13,6 @@
 #include "ui/content_view.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QDir>
 #include <QFileDialog>
 #include <QMenu>
 #include <QProcess>

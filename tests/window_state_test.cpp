@@ -8,7 +8,6 @@
 #include "support/game_window.h"
 
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -16,7 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Results of one player in the lists of a new window, the fastest having the most failures.
+/// Results of one player for a new window, the fastest having the most failures; and one
+/// of two players, without what it may lack.
 void writeResults(TestPlatform& platform, int count, const QString& name = u"Mia"_s)
 {
     HighscoreEntries entries;
@@ -27,6 +27,8 @@ void writeResults(TestPlatform& platform, int count, const QString& name = u"Mia
                            .failedAttempts = 20 - i,
                            .amountCards = 1,
                            .amountRounds = 1});
+    entries.push_back(
+        {.gameMode = versusMode, .playerName = name, .amountCards = 1, .amountRounds = 1});
     platform.writeHighscoreFile(encodeHighscores(entries));
 }
 
@@ -58,7 +60,7 @@ private Q_SLOTS:
         const ContentView& content = *window.delegate.contentView();
         QCOMPARE(content.size(), size);
         QCOMPARE(window.window().minimumSize(), window.window().maximumSize());
-        QCOMPARE(window.window().geometry().center(), screen().center());
+        QCOMPARE(window.window().geometry().center(), window.screen().center());
         QVERIFY(window.window().windowTitle().isEmpty());
         window.startGame();
         QCOMPARE(window.game().cards().size(), std::size_t(cards));
@@ -66,27 +68,12 @@ private Q_SLOTS:
         QCOMPARE(content.calculateCardSize({700, 500}), cards == 40 ? 70.0 : 85.0);
     }
 
-    void anotherLayoutResizesAndCentresTheWindow()
-    {
-        GameWindow window;
-        int posts = 0;
-        window.platform.notifications.observe(gameLayoutChanged, &window.window(),
-                                              [&] { ++posts; });
-        AppDelegate().updateWindowSizeForCurrentLayout(); // without a window
-        QCOMPARE(posts, 0);
-        window.platform.defaults->setInteger(SettingsKeys::AmountCards, 6);
-        window.delegate.updateWindowSizeForCurrentLayout();
-        QCOMPARE(posts, 1);
-        QTRY_COMPARE(window.delegate.contentView()->size(), QSize(1580, 900));
-        QCOMPARE(window.window().geometry().center(), screen().center());
-    }
-
     void fullScreenKeepsItsSizeAndGivesItBack()
     {
         GameWindow window([](TestPlatform& platform) {
             platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, 1);
         });
-        QTRY_COMPARE(window.window().size(), screen().size());
+        QTRY_COMPARE(window.window().size(), window.screen().size());
         QVERIFY(window.window().isFullScreen());
         const auto& item = window.child<QAction>(u"menu_full_screen"_s);
         QVERIFY(item.isChecked());
@@ -95,7 +82,7 @@ private Q_SLOTS:
         const int before = window.card(0).width();
         window.platform.defaults->setInteger(SettingsKeys::AmountCards, 6);
         window.delegate.updateWindowSizeForCurrentLayout();
-        QCOMPARE(window.window().size(), screen().size());
+        QCOMPARE(window.window().size(), window.screen().size());
         QVERIFY(window.card(0).width() < before);
 
         window.press(Qt::Key_F11);
@@ -117,47 +104,8 @@ private Q_SLOTS:
         QVERIFY(!window.child<QWidget>(u"bestVersusHeading"_s).isVisible());
         for (const QLabel* const label : window.window().findChildren<QLabel*>())
             QCOMPARE(label->textFormat(), Qt::PlainText);
-    }
-
-    void aVersusRecordMayLackNamesAndScores()
-    {
-        GameWindow window([](TestPlatform& platform) {
-            platform.writeHighscoreFile(encodeHighscores({{.gameMode = versusMode,
-                                                           .playerName = u"Ann"_s,
-                                                           .amountCards = 1,
-                                                           .amountRounds = 1}}));
-        });
         window.click(u"versusCheckbox"_s);
-        QCOMPARE(window.text(u"bestVersus1"_s), u"1. Ann vs Player 2 – 0:0"_s);
-    }
-
-    void aLowWindowScrollsTheListsAndAVeryLowOneEverything_data()
-    {
-        QTest::addColumn<int>("height");
-        QTest::addColumn<bool>("buttonsAreSeen");
-        QTest::newRow("low") << 620 << true;
-        QTest::newRow("very low") << 500 << false;
-    }
-
-    void aLowWindowScrollsTheListsAndAVeryLowOneEverything()
-    {
-        QFETCH(int, height);
-        QFETCH(bool, buttonsAreSeen);
-        GameWindow window([](TestPlatform& platform) { writeResults(platform, 12); });
-        window.startGame();
-        window.window().setContentSize({1100, height});
-        QTest::qWait(50);
-        auto& sidebar = window.child<QScrollArea>(u"leftSidebar"_s);
-        auto& lists = window.child<QScrollArea>(u"highscoreArea"_s);
-        QCOMPARE(sidebar.verticalScrollBar()->maximum() == 0, buttonsAreSeen);
-        QCOMPARE(lists.verticalScrollBar()->maximum() > 0, buttonsAreSeen);
-
-        // Whatever scrolls, the logo goes with it and the last button can be reached.
-        sidebar.verticalScrollBar()->setValue(sidebar.verticalScrollBar()->maximum());
-        QCOMPARE(window.child<QWidget>(u"logo"_s).y(), 22 - sidebar.verticalScrollBar()->maximum());
-        const QPushButton& end = window.child<QPushButton>(u"endButton"_s);
-        QVERIFY(sidebar.viewport()->rect().contains(
-            QRect(end.mapTo(sidebar.viewport(), QPoint()), end.size())));
+        QCOMPARE(window.text(u"bestVersus1"_s), u"1. "_s + name + u" vs Player 2 – 0:0"_s);
     }
 
     void theMenuFollowsTheGame()
@@ -258,8 +206,6 @@ private Q_SLOTS:
     }
 
 private:
-    static QRect screen() { return QGuiApplication::primaryScreen()->geometry(); }
-
     /// The colour on the board at `where` (points from the left, share of the
     /// height) of the card `position`.
     static QColor pixel(GameWindow& window, std::size_t position, QPointF where)

@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -42,6 +43,8 @@ public:
     [[nodiscard]] QString resources() const { return platform.home.path(); }
     [[nodiscard]] MemoryGame& game() { return delegate.contentView()->game(); }
     [[nodiscard]] MainWindow& window() { return *delegate.window(); }
+
+    [[nodiscard]] QRect screen() { return window().screen()->geometry(); }
 
     template <class Widget>
     [[nodiscard]] Widget& child(const QString& name)
