@@ -108,6 +108,35 @@ private Q_SLOTS:
         QCOMPARE(window.text(u"bestVersus1"_s), u"1. "_s + name + u" vs Player 2 – 0:0"_s);
     }
 
+    void aLowWindowScrollsTheListsAndAVeryLowOneEverything_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::addColumn<bool>("buttonsAreSeen");
+        QTest::newRow("low") << 620 << true;
+        QTest::newRow("very low") << 500 << false;
+    }
+
+    void aLowWindowScrollsTheListsAndAVeryLowOneEverything()
+    {
+        QFETCH(int, height);
+        QFETCH(bool, buttonsAreSeen);
+        GameWindow window([](TestPlatform& platform) { writeResults(platform, 12); });
+        window.startGame();
+        window.window().setContentSize({1100, height});
+        QTest::qWait(50);
+        auto& sidebar = window.child<QScrollArea>(u"leftSidebar"_s);
+        auto& lists = window.child<QScrollArea>(u"highscoreArea"_s);
+        QCOMPARE(sidebar.verticalScrollBar()->maximum() == 0, buttonsAreSeen);
+        QCOMPARE(lists.verticalScrollBar()->maximum() > 0, buttonsAreSeen);
+
+        // Whatever scrolls, the logo goes with it and the last button can be reached.
+        sidebar.verticalScrollBar()->setValue(sidebar.verticalScrollBar()->maximum());
+        QCOMPARE(window.child<QWidget>(u"logo"_s).y(), 22 - sidebar.verticalScrollBar()->maximum());
+        const QPushButton& end = window.child<QPushButton>(u"endButton"_s);
+        QVERIFY(sidebar.viewport()->rect().contains(
+            QRect(end.mapTo(sidebar.viewport(), QPoint()), end.size())));
+    }
+
     void theMenuFollowsTheGame()
     {
         GameWindow window([](TestPlatform& platform) { writeResults(platform, 1); });
