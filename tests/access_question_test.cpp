@@ -3,16 +3,16 @@
 // The question for access to the photos, asked by the real window over a real
 // folder of pictures and answered by mouse and keyboard.
 #include "platform/user_folders.h"
-#include "platform/widgets/access_question.h"
+#include "platform/widgets/access_dialog.h"
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
+#include "support/files.h"
 #include "support/game_window.h"
+#include "support/real_photos.h"
 
 #include <QAccessible>
-#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -22,29 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Calls `act` on the dialog `name` once it is up and active; a failure ends the wait
-/// for an answer.
-void whenShown(const QString& name, const std::function<void(QWidget&)>& act, int tries = 200)
-{
-    QTimer::singleShot(20, qApp, [=] {
-        QWidget* const dialog = QApplication::activeModalWidget();
-        const bool isShown = dialog != nullptr && dialog->objectName() == name;
-        if (isShown)
-            dialog->activateWindow(); // as a window manager does
-        if (isShown && dialog->isActiveWindow())
-            act(*dialog);
-        else if (tries > 0)
-            whenShown(name, act, tries - 1);
-        else
-            QTest::qFail(qPrintable(name + u" does not come up"_s), __FILE__, __LINE__);
-        while (QTest::currentTestFailed() && QApplication::activeModalWidget() != nullptr)
-            QApplication::activeModalWidget()->close();
-    });
-}
-
-const QString question = u"accessQuestion"_s;
-const QString folderDialog = u"QFileDialog"_s;
-
 /// A window whose library is the folder of its decks, so that each is an album.
 class PhotoWindow : public GameWindow {
 public:
@@ -53,25 +30,17 @@ public:
             services.defaults->setString(SettingsKeys::CardDeck, deck);
         })
     {
-        usePlatform(&m_services);
     }
 
     [[nodiscard]] QString pictures() const { return resources() + u"/Cards"_s; }
-    [[nodiscard]] QStringList& alertsShown() { return platform.alertLog.shown; }
-    [[nodiscard]] static QByteArray contents(const QString& path)
+    [[nodiscard]] PhotoAccess access() const { return platform.photoAccess.read(); }
+    void answerAll(AccessDialog& dialog)
     {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+        click(*dialog.findChild<QPushButton*>(u"photo_question_all"_s));
     }
 
-    PhotoAccessStore store{photoAccessFile()};
-
 private:
-    AccessQuestion m_question{pictures()};
-    PhotoLibrary m_library{store, &m_question, pictures(), PhotoLibrary::helperOfRunningProgram()};
-    Platform m_services{*platform.defaults,     ::platform().bundle, platform.mainQueue,
-                        platform.notifications, platform.audio,      m_library,
-                        platform.alertLog,      platform.openedFiles};
+    RealPhotos m_photos{platform, platform.alertLog, pictures()};
 };
 
 } // namespace
@@ -82,21 +51,18 @@ class AccessQuestionTest : public QObject {
 private Q_SLOTS:
     void aRoundAsksOnce_data()
     {
-        QTest::addColumn<QString>("way");
         QTest::addColumn<QByteArray>("stored");
         QTest::addColumn<bool>("isDealt");
-        QTest::newRow("all") << u"click"_s << QByteArray("status=authorized\n") << true;
-        QTest::newRow("none") << u"letter"_s << QByteArray("status=denied\n") << false;
-        QTest::newRow("a folder") << u"folder"_s
-                                  << QByteArray("status=limited\nfolder=%/Cards/%C3%9Cber%20uns\n")
-                                  << true;
-        QTest::newRow("no folder, Escape") << u"cancel"_s << QByteArray("none") << false;
-        QTest::newRow("closed") << u"close"_s << QByteArray("none") << false;
+        QTest::newRow("all by mouse") << "status=authorized\n"_ba << true;
+        QTest::newRow("none by letter") << "status=denied\n"_ba << false;
+        QTest::newRow("folder") << "status=limited\nfolder=%/Cards/%C3%9Cber%20uns\n"_ba << true;
+        QTest::newRow("no folder, Escape") << ""_ba << false;
+        QTest::newRow("closed") << ""_ba << false;
     }
 
     void aRoundAsksOnce()
     {
-        QFETCH(const QString, way);
+        const QByteArray way = QTest::currentDataTag();
         QFETCH(QByteArray, stored);
         QFETCH(const bool, isDealt);
         PhotoWindow window(u"iPhoto"_s);
@@ -104,7 +70,7 @@ private Q_SLOTS:
         stored.replace("%/", window.resources().toUtf8() + '/');
 
         int questions = 0;
-        const auto answer = [&](QWidget& dialog) {
+        whenShown<AccessDialog>([&](AccessDialog& dialog) {
             ++questions;
             // A letter or Return that led here is still held.
             qt_sendShortcutOverrideEvent(dialog.windowHandle(), 0, Qt::Key_A, Qt::AltModifier,
@@ -114,56 +80,48 @@ private Q_SLOTS:
             GameWindow::repeatOn(dialog, Qt::Key_Return);
             QCOMPARE(QApplication::activeModalWidget(), &dialog);
             QCOMPARE(dialog.focusWidget()->objectName(), u"photo_question_folder"_s);
-            QWindow* const handle = dialog.windowHandle();
-            if (way == u"click"_s) {
-                window.click(*dialog.findChild<QPushButton*>(u"photo_question_all"_s));
-            } else if (way == u"letter"_s) {
-                QTest::keyClick(handle, Qt::Key_N, Qt::AltModifier);
-            } else if (way == u"close"_s) {
-                dialog.close();
-            } else {
-                whenShown(folderDialog, [&](QWidget& choice) {
-                    GameWindow::repeatOn(choice, Qt::Key_Return);
-                    QCOMPARE(QApplication::activeModalWidget(), &choice);
-                    if (way == u"folder"_s) {
-                        choice.findChild<QLineEdit*>(u"fileNameEdit"_s)
-                            ->setText(window.pictures() + u"/Über uns"_s);
-                        QTest::keyClick(choice.windowHandle(), Qt::Key_Return);
-                        return;
-                    }
-                    whenShown(question, [](QWidget& again) {
-                        QTest::keyClick(again.windowHandle(), Qt::Key_Escape);
-                    });
-                    QTest::keyClick(choice.windowHandle(), Qt::Key_Escape);
+            if (way == "all by mouse")
+                return window.answerAll(dialog);
+            if (way == "closed")
+                return void(dialog.close());
+            if (way == "none by letter")
+                return QTest::keyClick(dialog.windowHandle(), Qt::Key_N, Qt::AltModifier);
+            whenShown<QFileDialog>([&](QFileDialog& choice) {
+                GameWindow::repeatOn(choice, Qt::Key_Return);
+                QCOMPARE(QApplication::activeModalWidget(), &choice);
+                if (way == "folder") {
+                    choice.findChild<QLineEdit*>(u"fileNameEdit"_s)
+                        ->setText(window.pictures() + u"/Über uns"_s);
+                    return QTest::keyClick(choice.windowHandle(), Qt::Key_Return);
+                }
+                whenShown<AccessDialog>([](AccessDialog& again) {
+                    QTest::keyClick(again.windowHandle(), Qt::Key_Escape);
                 });
-                QTest::keyClick(handle, Qt::Key_Return);
-            }
-        };
-        whenShown(question, answer);
+                QTest::keyClick(choice.windowHandle(), Qt::Key_Escape);
+            });
+            QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
+        });
         window.startGame();
         QCOMPARE(questions, 1);
-        QCOMPARE(window.contents(photoAccessFile()), stored);
+        QCOMPARE(contentsOf(photoAccessFile()), stored);
         QCOMPARE(window.game().isGameActive(), isDealt);
-        QTRY_COMPARE(window.alertsShown().size(), isDealt ? 0 : 2);
+        const QStringList& alerts = window.platform.alertLog.shown;
+        QTRY_COMPARE(alerts.size(), isDealt ? 0 : 2);
         if (!isDealt)
-            QVERIFY(window.alertsShown()[0].startsWith(u"Paircade isn’t allowed"_s));
+            QVERIFY(alerts[0].startsWith(u"Paircade isn’t allowed"_s));
         QTRY_COMPARE(window.focused(), isDealt ? u"card0"_s : u"playerName"_s);
-        QVERIFY(!window.contents(settingsFile()).contains("tatus"));
-        if (stored == "none") {
-            QCOMPARE(window.store.read().status, PhotoAuthorization::notDetermined);
+        QVERIFY(!contentsOf(settingsFile()).contains("tatus"));
+        if (stored.isEmpty()) {
+            QCOMPARE(window.access().status, PhotoAuthorization::notDetermined);
             return;
         }
-        struct stat file {};
-        QCOMPARE(::stat(QFile::encodeName(photoAccessFile()).constData(), &file), 0);
-        QCOMPARE(file.st_mode & 0777U, 0600U);
+        QVERIFY(!(QFile::permissions(photoAccessFile()) & (QFile::ReadGroup | QFile::ReadOther)));
 
-        // An answer is never asked for again.
-        if (isDealt)
-            window.child<QAction>(u"menu_end_game"_s).trigger();
-        const bool isGone = way == u"folder"_s; // a folder that has gone holds nothing
+        // An answer is never asked for again; a folder that has gone holds nothing.
+        window.game().endGame();
         QDir(window.pictures() + u"/Über uns"_s).removeRecursively();
         window.game().startNewGame();
-        QCOMPARE(window.game().isGameActive(), isDealt && !isGone);
+        QCOMPARE(window.game().isGameActive(), isDealt && way != "folder");
     }
 
     void theGameStandsStillMeanwhile()
@@ -177,23 +135,21 @@ private Q_SLOTS:
         const QString shown = window.text(u"headerText"_s);
 
         bool hasRun = false;
-        whenShown(question, [&](QWidget& dialog) {
+        whenShown<AccessDialog>([&](AccessDialog& dialog) {
             const std::int64_t elapsed = window.game().elapsedSeconds();
             window.platform.mainQueue.async([&hasRun] { hasRun = true; });
-            for (const char* const name : {"menu_end_game", "menu_preferences", "menu_quit"})
-                window.child<QAction>(QString::fromLatin1(name)).trigger();
-            QAccessibleActionInterface* const reader =
-                QAccessible::queryAccessibleInterface(&window.child<QPushButton>(u"endButton"_s))
-                    ->actionInterface();
-            reader->doAction(QAccessibleActionInterface::pressAction());
+            for (const QString& item : {u"menu_end_game"_s, u"menu_preferences"_s, u"menu_quit"_s})
+                window.choose(item);
+            QAccessible::queryAccessibleInterface(&window.child<QWidget>(u"endButton"_s))
+                ->actionInterface()
+                ->doAction(QAccessibleActionInterface::pressAction());
             QTest::qWait(1300);
-            QVERIFY(!hasRun);
-            QVERIFY(window.game().isGameActive());
+            QVERIFY(!hasRun && window.game().isGameActive());
             QVERIFY(window.window().findChildren<Preferences*>().isEmpty());
             QCOMPARE(window.game().elapsedSeconds(), elapsed);
             QCOMPARE(window.game().currentRound(), 2);
             QCOMPARE(window.text(u"headerText"_s), shown);
-            window.click(*dialog.findChild<QPushButton*>(u"photo_question_all"_s));
+            window.answerAll(dialog);
         });
         window.clickPair();
         QTRY_VERIFY(hasRun);
@@ -215,9 +171,9 @@ private Q_SLOTS:
         window.click(album); // without access nothing is made
         QVERIFY(album.isChecked() && !QFile::exists(window.pictures() + u"/Paircade"_s));
 
-        whenShown(question, [&](QWidget& dialog) {
+        whenShown<AccessDialog>([&](AccessDialog& dialog) {
             QVERIFY(!pane->isEnabled());
-            window.click(*dialog.findChild<QPushButton*>(u"photo_question_all"_s));
+            window.answerAll(dialog);
         });
         window.click(button);
         QTRY_COMPARE(window.text(u"photosState"_s), u"All pictures"_s);
@@ -240,28 +196,29 @@ private Q_SLOTS:
         QCOMPARE(window.platform.openedFiles.paths.size(), 2);
 
         // Escape leaves the answer as it was.
-        whenShown(question,
-                  [](QWidget& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape); });
+        whenShown<AccessDialog>(
+            [](AccessDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape); });
         window.click(button);
-        QCOMPARE(window.store.read().status, PhotoAuthorization::authorized);
+        QCOMPARE(window.access().status, PhotoAuthorization::authorized);
     }
 
     void theStoreTrustsNoFile_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<QByteArray>("folder"); // none: never asked
-        QTest::newRow("empty") << QByteArray() << QByteArray();
-        QTest::newRow("no end of line") << QByteArray("status=authorized") << QByteArray("all");
-        QTest::newRow("a status that is no answer")
-            << QByteArray("status=restricted\n") << QByteArray();
-        QTest::newRow("limited to nothing") << QByteArray("status=limited\n") << QByteArray();
-        QTest::newRow("a folder of any bytes")
-            << QByteArray("status=limited\nfolder=/%FF%0A%25\n") << QByteArray("/\xff\n%");
-        QTest::newRow("a relative folder")
-            << QByteArray("status=limited\nfolder=home\n") << QByteArray();
-        QTest::newRow("a folder cut short by its bytes")
-            << QByteArray("status=limited\nfolder=/home%00/x\n") << QByteArray();
-        QTest::newRow("no text") << QByteArray("\0\xff\n\n", 4) << QByteArray();
+        QTest::newRow("no end of line") << "status=authorized"_ba
+                                        << "all"_ba;
+        QTest::newRow("a status that is no answer") << "status=restricted\n"_ba
+                                                    << ""_ba;
+        QTest::newRow("limited to nothing") << "status=limited\n"_ba
+                                            << ""_ba;
+        QTest::newRow("a folder of any bytes") << "status=limited\nfolder=/%FF%0A%25\n"_ba
+                                               << "/\xff\n%"_ba;
+        QTest::newRow("a relative folder") << "status=limited\nfolder=home\n"_ba
+                                           << ""_ba;
+        QTest::newRow("a folder cut short by its bytes") << "status=limited\nfolder=/home%00/x\n"_ba
+                                                         << ""_ba;
+        QTest::newRow("no text") << QByteArray("\0\xff\n\n", 4) << ""_ba;
     }
 
     void theStoreTrustsNoFile()
@@ -269,20 +226,17 @@ private Q_SLOTS:
         QFETCH(const QByteArray, contents);
         QFETCH(const QByteArray, folder);
         const QTemporaryDir home;
-        QFile file(home.filePath(u"PhotoAccess.conf"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(contents) >= 0);
-        file.close();
-        PhotoAccessStore store(file.fileName());
+        const QString file = home.filePath(u"PhotoAccess.conf"_s);
+        writeFile(file, contents);
         PhotoAccess expected;
         if (folder == "all")
             expected.status = PhotoAuthorization::authorized;
         else if (!folder.isEmpty())
             expected = {PhotoAuthorization::limited, folder};
-        QVERIFY(store.read() == expected);
-
+        QVERIFY(PhotoAccessStore(file).read() == expected);
         // What was read can be written, and only that.
-        QCOMPARE(store.write(expected), !folder.isEmpty());
-        QVERIFY(PhotoAccessStore(file.fileName()).read() == expected);
+        QCOMPARE(PhotoAccessStore(file).write(expected), !folder.isEmpty());
+        QVERIFY(PhotoAccessStore(file).read() == expected);
     }
 
     void anAnswerThatCannotBeStoredHoldsMeanwhile()

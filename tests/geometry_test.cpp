@@ -2,20 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where everything lies, how large it is and in which font, measured on the real
 // window; and that all of it can be read and reached on small and large screens.
-#include "platform/format_text.h"
+#include "highscores/highscore_file.h"
 #include "settings/settings_keys.h"
 #include "support/game_window.h"
 #include "support/texts_fit.h"
 
-#include <QAbstractButton>
 #include <QFontDatabase>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QScreen>
 #include <QScrollArea>
-#include <array>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -24,18 +19,19 @@ namespace {
 /// `count` results of each mode for `layout`, by players called `name`.
 void writeResults(TestPlatform& platform, qint64 layout, int count, const QString& name)
 {
-    QByteArrayList records;
-    for (int i = 0; i < count * 2; ++i) {
-        records
-            << fillFormat(
-                   uR"({"id": "%1", "gameMode": "%2", "playerName": "%3", "secondPlayerName": "%3",
-                            "elapsedSeconds": %4, "failedAttempts": %4, "firstPlayerScore": %4,
-                            "secondPlayerScore": 0, "amountCards": %5, "amountRounds": 1})",
-                   {QUuid::createUuid().toString(QUuid::WithoutBraces),
-                    i % 2 == 0 ? u"solo"_s : u"versus"_s, name, 11 + i, layout})
-                   .toUtf8();
+    HighscoreEntries entries;
+    for (int i = 0; i < count; ++i) {
+        for (const QLatin1String mode : {soloMode, versusMode})
+            entries.push_back({.gameMode = mode,
+                               .playerName = name,
+                               .secondPlayerName = name,
+                               .elapsedSeconds = 11 + i,
+                               .failedAttempts = 11 + i,
+                               .firstPlayerScore = 11 + i,
+                               .amountCards = layout,
+                               .amountRounds = 1});
     }
-    platform.writeHighscoreFile('[' + records.join(',') + ']');
+    platform.writeHighscoreFile(encodeHighscores(entries));
 }
 
 enum class Mode { solo, versus, both };
@@ -162,14 +158,11 @@ private:
         QTest::addColumn<bool>("isFullScreen");
         for (const int layout : layouts) {
             for (const QString& language : languages) {
-                for (const bool isFullScreen : {false, true}) {
-                    // More room is a matter of the layout, not of the language.
-                    if (isFullScreen && language != u"en")
-                        continue;
-                    QTest::addRow("layout %d, %s%s", layout, qPrintable(language),
-                                  isFullScreen ? ", full screen" : "")
-                        << layout << language << isFullScreen;
-                }
+                const QByteArray name = language.toUtf8() + char('0' + layout);
+                QTest::newRow(name) << layout << language << false;
+                // More room is a matter of the layout, not of the language.
+                if (language == u"en")
+                    QTest::newRow(name + ", full screen") << layout << language << true;
             }
         }
     }
@@ -187,25 +180,30 @@ private:
                 writeResults(platform, layout, count, name);
             },
             language);
-        const QRect screen = m_window->window().screen()->geometry();
         QTRY_COMPARE(m_window->window().isFullScreen(), isFullScreen);
         if (isFullScreen)
-            QTRY_COMPARE(m_window->window().geometry(), screen);
-        QVERIFY(screen.contains(m_window->window().geometry()));
+            QTRY_COMPARE(m_window->window().geometry(), m_window->screen());
+        QVERIFY(m_window->screen().contains(m_window->window().geometry()));
     }
 
     void typeNames(bool isVersus, const QString& name)
     {
-        for (const char* const field : {"playerOneName", "playerTwoName"})
-            m_window->child<QLineEdit>(QLatin1String(isVersus ? field : "playerName")).insert(name);
+        for (QWidget* const control : formOf(isVersus)) {
+            if (auto* const field = qobject_cast<QLineEdit*>(control))
+                field->insert(name);
+        }
         QCoreApplication::processEvents();
     }
 
     QWidget& child(const char* name) { return m_window->child<QWidget>(QLatin1String(name)); }
-    QWidget& startButton(bool isVersus)
+    /// The controls of a form, from the top to its button.
+    QWidgetList formOf(bool isVersus)
     {
-        return child(isVersus ? "startVersusButton" : "startButton");
+        if (isVersus)
+            return {&child("playerOneName"), &child("playerTwoName"), &child("startVersusButton")};
+        return {&child("playerName"), &child("startButton")};
     }
+    QWidget& startButton(bool isVersus) { return *formOf(isVersus).constLast(); }
     ContentView& screen() { return *m_window->delegate.contentView(); }
     QRect place(const QWidget& widget)
     {
@@ -229,10 +227,8 @@ private:
         QCOMPARE(title.text(), isActive ? m_window->game().headerText() : QString());
 
         measureSidebar(isVersus, isActive, hasNames);
-        for (const char* const name : {"playerName", "startButton"})
-            QCOMPARE(child(name).isVisible(), !isActive && !isVersus);
-        for (const char* const name : {"playerOneName", "playerTwoName", "startVersusButton"})
-            QCOMPARE(child(name).isVisible(), !isActive && isVersus);
+        for (QWidget* const control : formOf(true) + formOf(false))
+            QCOMPARE(control->isVisible(), !isActive && formOf(isVersus).contains(control));
         QCOMPARE(child("gameBoard").isVisible(), isActive);
         if (isActive)
             measureBoard();
@@ -274,18 +270,14 @@ private:
     /// The controls of the form lie in the middle of the main area, 16 apart.
     void measureForm(bool isVersus, bool hasNames)
     {
-        const QWidgetList column =
-            isVersus
-                ? QWidgetList{&child("playerOneName"), &child("playerTwoName"), &startButton(true)}
-                : QWidgetList{&child("playerName"), &startButton(false)};
-        const double middle = 236 + (screen().width() - 236) / 2.0;
+        const QWidgetList column = formOf(isVersus);
         int y = place(*column.constFirst()).top();
-        QVERIFY(qAbs((y + place(*column.constLast()).bottom() + 1) / 2.0 -
-                     (60 + (screen().height() - 60) / 2.0)) <= 0.5);
+        const int bottom = place(*column.constLast()).bottom() + 1;
+        QVERIFY(qAbs(y + bottom - (60 + screen().height())) <= 1);
         for (const QWidget* const control : column) {
             const QRect rect = place(*control);
             QCOMPARE(rect.top(), y);
-            QVERIFY(qAbs(rect.left() + rect.width() / 2.0 - middle) <= 0.5);
+            QVERIFY(qAbs(rect.left() + rect.right() + 1 - (236 + screen().width())) <= 1);
             y = rect.bottom() + 1 + 16;
             if (control == column.constLast())
                 continue;
@@ -313,10 +305,8 @@ private:
         for (int i = 0; i < columns * rows; ++i) {
             const QRect card = place(m_window->card(std::size_t(i)));
             // Half a point for the grid's corner, half for the card's place in it.
-            const int column = i % columns;
-            const int row = i / columns;
-            QVERIFY(qAbs(card.left() - (left + column * (edge + 20))) <= 1);
-            QVERIFY(qAbs(card.top() - (top + row * (edge + 20))) <= 1);
+            QVERIFY(qAbs(card.left() - (left + i % columns * (edge + 20))) <= 1);
+            QVERIFY(qAbs(card.top() - (top + i / columns * (edge + 20))) <= 1);
             QVERIFY(card.width() == card.height() && qAbs(card.width() - edge) <= 0.5);
         }
     }
@@ -326,18 +316,15 @@ private:
         const QByteArray name = widget.objectName().toUtf8();
         QVERIFY2(widget.font().pixelSize() == pixelSize, name);
         QVERIFY2(widget.font().weight() == weight, name);
-        const QString family = QFontDatabase::systemFont(isMonospaced ? QFontDatabase::FixedFont
-                                                                      : QFontDatabase::GeneralFont)
-                                   .family();
-        QVERIFY2(widget.font().family() == family, name);
+        const auto kind = isMonospaced ? QFontDatabase::FixedFont : QFontDatabase::GeneralFont;
+        QVERIFY2(widget.font().family() == QFontDatabase::systemFont(kind).family(), name);
     }
 
     /// Scrolls until `widget` is seen.
     QWidget& reach(QWidget& widget)
     {
-        for (QWidget* above = widget.parentWidget(); above != nullptr;
-             above = above->parentWidget()) {
-            if (auto* const area = qobject_cast<QScrollArea*>(above))
+        for (auto* const area : screen().findChildren<QScrollArea*>()) {
+            if (area->isAncestorOf(&widget))
                 area->ensureWidgetVisible(&widget, 0, 0);
         }
         return widget;
@@ -356,13 +343,13 @@ private:
     /// Every text, control and card can be seen whole, and lies on no other.
     void reachAll()
     {
-        QWidgetList widgets;
-        for (QWidget* const widget : screen().findChildren<QWidget*>()) {
-            if (widget->isVisible() && (qobject_cast<QLabel*>(widget) != nullptr ||
-                                        qobject_cast<QLineEdit*>(widget) != nullptr ||
-                                        qobject_cast<QAbstractButton*>(widget) != nullptr))
-                widgets << widget;
-        }
+        QWidgetList widgets = screen().findChildren<QWidget*>();
+        widgets.removeIf([](const QWidget* widget) {
+            return !widget->isVisible() ||
+                   (qobject_cast<const QLabel*>(widget) == nullptr &&
+                    qobject_cast<const QLineEdit*>(widget) == nullptr &&
+                    qobject_cast<const QAbstractButton*>(widget) == nullptr);
+        });
         for (QWidget* const widget : widgets) {
             const QByteArray name = widget->objectName().toUtf8();
             reach(*widget);

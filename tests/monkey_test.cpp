@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Random mouse and keys over all that has a window: nothing crashes, hangs or complains.
 //
-// PAIRCADE_SECONDS sets how long, PAIRCADE_SEED where to begin. A seed does not repeat a
-// run, which depends on time; the last actions before a failure are told instead.
+// PAIRCADE_SECONDS sets how long. What happens depends on time, so that no seed would
+// repeat a run; the last actions before a failure are told instead.
 #include "app/termination.h"
-#include "platform/widgets/access_question.h"
 #include "settings/settings_keys.h"
 #include "support/game_window.h"
 #include "support/output_of.h"
+#include "support/real_photos.h"
 
 #include <QFileDialog>
 #include <QMenu>
@@ -50,12 +50,10 @@ class Monkey : public QObject {
     Q_OBJECT
 
 public:
-    Monkey(QRandomGenerator& random, std::map<QString, int>& seen, qint64 milliseconds)
-        : m_random(random)
-        , m_seen(seen)
+    Monkey(std::map<QString, int>& seen, qint64 milliseconds)
+        : m_seen(seen)
         , m_window([this](TestPlatform& platform) { prepare(platform); })
     {
-        usePlatform(&m_services);
         connect(&m_window.game(), &MemoryGame::changed, this, [this](MemoryGame::Member member) {
             if (member == MemoryGame::Member::isGameActive && m_window.game().isGameActive())
                 ++m_seen[u"games of %1 pairs"_s.arg(m_window.game().pairsPerRound())];
@@ -69,7 +67,7 @@ public:
     [[nodiscard]] GameWindow& window() { return m_window; }
 
 private:
-    int draw(int bound) { return int(m_random.bounded(bound)); }
+    static int draw(int bound) { return int(QRandomGenerator::global()->bounded(bound)); }
     template <class List>
     auto oneOf(const List& list)
     {
@@ -100,12 +98,7 @@ private:
         if (m_depth >= actionsInEachOther)
             return;
         ++m_depth;
-        const auto before = trail.size();
         choose();
-        if (trail.size() > before)
-            ++m_seen[u"actions"_s];
-        while (trail.size() > 40)
-            trail.removeFirst();
         --m_depth;
     }
 
@@ -118,24 +111,21 @@ private:
         if (shown.isEmpty())
             return;
         QWidget* top = oneOf(shown);
-        if (QWidget* const popup = QApplication::activePopupWidget(); popup && draw(10))
-            top = popup;
-        else if (QWidget* const modal = QApplication::activeModalWidget(); modal && draw(10))
-            top = modal;
+        QWidget* const modal = QApplication::activeModalWidget();
+        QWidget* const popup = QApplication::activePopupWidget();
+        if (QWidget* const first = popup != nullptr ? popup : modal; first != nullptr && draw(10))
+            top = first;
         // Lest it delete a file of this machine.
-        if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr)
-            return press(*QApplication::activeModalWidget(),
-                         draw(2) ? Qt::Key_Escape : Qt::Key_Return);
+        if (qobject_cast<QFileDialog*>(modal) != nullptr)
+            return press(*modal, draw(2) ? Qt::Key_Escape : Qt::Key_Return);
 
         const int dice = draw(1000);
         if (dice < 380)
             play();
         else if (dice < 600)
             point(*top);
-        else if (dice < 930)
-            press(*top, key());
         else if (dice < 950)
-            drag(*top);
+            press(*top, key());
         else if (dice < 970)
             turnWheel(*top);
         else if (dice < 996)
@@ -144,25 +134,26 @@ private:
             leave();
     }
 
-    void note(const QString& what) { trail << what; }
+    void note(const QString& what)
+    {
+        trail = trail.mid(trail.size() - 40) << what;
+        ++m_seen[u"actions"_s];
+    }
 
     /// Something sensible: a game goes on, or one is started.
     void play()
     {
         MemoryGame& game = m_window.game();
-        if (!game.isGameActive() || game.cards().empty()) {
-            if (auto* const start = m_window.window().findChild<QAbstractButton*>(
-                    game.isVersusMode() ? u"startVersusButton"_s : u"startButton"_s);
-                start != nullptr && start->isVisible())
-                m_window.click(*start);
-            return note(u"start"_s);
+        QString target = game.isVersusMode() ? u"startVersusButton"_s : u"startButton"_s;
+        if (game.isGameActive() && !game.cards().empty()) {
+            const auto first = game.firstSelectedIndex();
+            target =
+                u"card%1"_s.arg(first ? otherCard(game, *first, draw(4) > 0) : hiddenCard(game));
         }
-        const auto first = game.firstSelectedIndex();
-        const std::size_t partner = first ? otherCard(game, *first, draw(4) > 0) : hiddenCard(game);
-        if (auto* const tile =
-                m_window.window().findChild<QAbstractButton*>(u"card%1"_s.arg(partner)))
-            m_window.click(*tile);
-        note(u"card %1"_s.arg(partner));
+        note(target);
+        auto* const button = m_window.window().findChild<QAbstractButton*>(target);
+        if (button != nullptr && button->isVisible())
+            m_window.click(*button);
     }
 
     void point(QWidget& top)
@@ -172,29 +163,23 @@ private:
         children.removeIf([](const QWidget* widget) { return !widget->isVisible(); });
         if (!children.isEmpty() && draw(6))
             target = oneOf(children);
-        const QPoint place = target->mapTo(
-            &top, QPoint(draw(std::max(1, target->width())), draw(std::max(1, target->height()))));
-        note(
-            u"%1 %2"_s.arg(QLatin1String(target->metaObject()->className()), target->objectName()));
+        const QPoint place = target->mapTo(&top, placeIn(*target));
+        note(QLatin1String(target->metaObject()->className()) + u' ' + target->objectName());
         ++m_seen[u"clicks in a "_s + QLatin1String(top.metaObject()->className())];
-        QWindow* const window = top.windowHandle();
+        const QPointer<QWindow> window = top.windowHandle();
         const auto button = draw(12) ? Qt::LeftButton : Qt::RightButton;
-        if (draw(8))
-            QTest::mouseClick(window, button, {}, place);
-        else
-            QTest::mouseDClick(window, button, {}, place);
+        if (draw(8) == 0)
+            return QTest::mouseDClick(window, button, {}, place);
+        QTest::mousePress(window, button, {}, place);
+        for (int drags = draw(12) ? 0 : 3; drags > 0 && window; --drags)
+            QTest::mouseMove(window, placeIn(top));
+        if (window)
+            QTest::mouseRelease(window, button, {}, place);
     }
 
-    void drag(QWidget& top)
+    static QPoint placeIn(const QWidget& widget)
     {
-        note(u"drag"_s);
-        const auto place = [&] { return QPoint(draw(top.width()), draw(top.height())); };
-        const QPointer<QWindow> window = top.windowHandle();
-        QTest::mousePress(window, Qt::LeftButton, {}, place());
-        for (int i = 0; i < 3 && window; ++i)
-            QTest::mouseMove(window, place());
-        if (window)
-            QTest::mouseRelease(window, Qt::LeftButton, {}, place());
+        return {draw(std::max(1, widget.width())), draw(std::max(1, widget.height()))};
     }
 
     void turnWheel(QWidget& top)
@@ -210,19 +195,15 @@ private:
     QKeyCombination key()
     {
         using namespace Qt;
-        if (draw(3) == 0)
-            return {Key(Key_A + draw(26))};
-        static constexpr std::array keys{
-            Key_Tab,       Key_Tab,    Key_Tab,    Key_Backtab, Key_Space,  Key_Space,
-            Key_Return,    Key_Return, Key_Escape, Key_Escape,  Key_Up,     Key_Down,
-            Key_Left,      Key_Right,  Key_Home,   Key_End,     Key_PageUp, Key_Delete,
-            Key_Backspace, Key_F1,     Key_F10,    Key_F11,     Key_Alt,    Key_Menu};
-        if (draw(4))
-            return {oneOf(keys)};
-        static constexpr std::array chords{CTRL | Key_N, CTRL | Key_Comma, CTRL | Key_Comma,
-                                           ALT | Key_G,  CTRL | Key_A,     CTRL | Key_X,
-                                           CTRL | Key_V, ALT | Key_V,      ALT | Key_H};
-        return oneOf(chords);
+        static constexpr std::initializer_list<QKeyCombination> keys{
+            Key_Tab,      Key_Tab,      Key_Tab,          Key_Backtab,      Key_Space,
+            Key_Space,    Key_Return,   Key_Return,       Key_Escape,       Key_Escape,
+            Key_Up,       Key_Down,     Key_Left,         Key_Right,        Key_Home,
+            Key_End,      Key_PageUp,   Key_Delete,       Key_Backspace,    Key_F1,
+            Key_F10,      Key_F11,      Key_Alt,          Key_Menu,         CTRL | Key_N,
+            CTRL | Key_A, CTRL | Key_X, CTRL | Key_Comma, CTRL | Key_Comma, ALT | Key_G,
+            CTRL | Key_V, ALT | Key_V,  ALT | Key_H};
+        return draw(3) == 0 ? QKeyCombination(Key(Key_A + draw(26))) : oneOf(keys);
     }
 
     void press(QWidget& top, QKeyCombination combination)
@@ -233,74 +214,49 @@ private:
             m_window.repeat(combination.key(), {});
     }
 
+    using Deeds = std::vector<std::pair<QString, std::function<void()>>>;
+
+    void doOneOf(const Deeds& deeds)
+    {
+        const auto& [name, deed] = deeds[std::size_t(draw(int(deeds.size())))];
+        note(name);
+        deed();
+    }
+
     /// What others do to the game: the desktop, other programs, the disk.
     void disturb(QWidget& top)
     {
         TestPlatform& platform = m_window.platform;
-        switch (draw(8)) {
-        case 0:
-            note(u"minimise"_s);
-            return top.setWindowState(top.windowState() ^ Qt::WindowMinimized);
-        case 1:
-            note(u"resize"_s);
-            return top.windowHandle()->resize(draw(2000) + 1, draw(1500) + 1);
-        case 2:
-            note(u"garbage as results"_s);
-            return platform.writeHighscoreFile(draw(2) ? "[{" : "[]");
-        case 3:
-            note(u"deck"_s);
-            return platform.defaults->setString(
-                SettingsKeys::CardDeck,
-                oneOf(std::array{u"Cyberpunk"_s, u"Cyberpunk"_s, u"Kids"_s, u"None"_s, u""_s,
-                                 u"iPhoto"_s, u"iPhoto: Kids"_s, u"iPhoto: Sea"_s}));
-        case 4:
-            note(u"second start"_s);
-            return m_window.delegate.activate();
-        case 5:
-            note(u"alert"_s);
-            return m_window.game().showLocalizedAlert("enter_name");
-        case 6:
-            note(u"paint"_s);
-            return void(m_window.window().grab());
-        default:
-            note(u"close a window"_s);
-            if (&top != &m_window.window())
-                top.close();
-        }
+        doOneOf({
+            {u"minimise"_s, [&] { top.setWindowState(top.windowState() ^ Qt::WindowMinimized); }},
+            {u"resize"_s, [&] { top.windowHandle()->resize(draw(2000) + 1, draw(1500) + 1); }},
+            {u"results"_s, [&] { platform.writeHighscoreFile(draw(2) ? "[{" : "[]"); }},
+            {u"deck"_s, [&] { platform.defaults->setString(SettingsKeys::CardDeck, deck()); }},
+            {u"second start"_s, [&] { m_window.delegate.activate(); }},
+            {u"alert"_s, [&] { m_window.game().showLocalizedAlert("enter_name"); }},
+            {u"paint"_s, [&] { m_window.window().grab(); }},
+            {u"close"_s, [&] { (void)(&top == &m_window.window() || top.close()); }},
+        });
+    }
+
+    QString deck()
+    {
+        return oneOf(
+            u"Cyberpunk|Cyberpunk|Kids|None||iPhoto|iPhoto: Kids|iPhoto: Sea"_s.split(u'|'));
     }
 
     void leave()
     {
         ++m_seen[u"ends of the program"_s];
-        switch (draw(3)) {
-        case 0:
-            note(u"SIGTERM"_s);
-            return void(std::raise(SIGTERM));
-        case 1:
-            note(u"quit"_s);
-            return press(m_window.window(), Qt::CTRL | Qt::Key_Q);
-        default:
-            note(u"close"_s);
-            m_window.window().close();
-        }
+        doOneOf({{u"SIGTERM"_s, [] { (void)std::raise(SIGTERM); }},
+                 {u"quit"_s, [this] { press(m_window.window(), Qt::CTRL | Qt::Key_Q); }},
+                 {u"leave"_s, [this] { m_window.window().close(); }}});
     }
 
-    QRandomGenerator& m_random;
     std::map<QString, int>& m_seen;
     GameWindow m_window;
-    // Real photos, the decks being albums, and the real question about them.
-    AccessQuestion m_question{m_window.resources() + u"/Cards"_s};
-    PhotoLibrary m_photos{m_window.platform.photoAccess, &m_question,
-                          m_window.resources() + u"/Cards"_s,
-                          PhotoLibrary::helperOfRunningProgram()};
-    Platform m_services{*m_window.platform.defaults,
-                        platform().bundle,
-                        m_window.platform.mainQueue,
-                        m_window.platform.notifications,
-                        m_window.platform.audio,
-                        m_photos,
-                        m_window.alerts,
-                        m_window.platform.openedFiles};
+    RealPhotos m_photos{m_window.platform, m_window.alerts, // the decks being albums
+                        m_window.resources() + u"/Cards"_s};
     int m_depth = 0;
 };
 
@@ -315,11 +271,6 @@ private Q_SLOTS:
         bool isSet = false;
         const int asked = qEnvironmentVariableIntValue("PAIRCADE_SECONDS", &isSet);
         const QDeadlineTimer end(std::chrono::seconds(isSet ? asked : 5));
-        const QByteArray seedSet = qgetenv("PAIRCADE_SEED");
-        const quint32 seed =
-            seedSet.isEmpty() ? QRandomGenerator::global()->generate() : seedSet.toUInt();
-        qInfo("PAIRCADE_SEED=%u", seed);
-        QRandomGenerator random(seed);
         std::map<QString, int> seen;
         for (const int signal : {SIGSEGV, SIGABRT, SIGALRM})
             (void)std::signal(signal, tellAndDie);
@@ -330,7 +281,7 @@ private Q_SLOTS:
             log += outputOf([&] {
                 const Termination termination;
                 // An end in a while, so that each layout and setting has its turn.
-                Monkey monkey(random, seen, std::min<qint64>(end.remainingTime(), 8000));
+                Monkey monkey(seen, std::min<qint64>(end.remainingTime(), 8000));
                 QApplication::exec();
                 TestPlatform& platform = monkey.window().platform;
                 monkey.window().delegate.applicationWillTerminate();

@@ -47,12 +47,12 @@ private Q_SLOTS:
         // Any deck but that of all photos switches the album off.
         QCheckBox& album = *window.pane->paircade_album();
         QVERIFY(!album.isEnabled() && !album.isChecked());
-        QCOMPARE(stored("PaircadeAlbum"), QByteArray("0"));
+        QCOMPARE(stored("PaircadeAlbum"), "0"_ba);
         window.decks().setFocus();
         window.key(Qt::Key_Down);
         QVERIFY(album.isEnabled() && !album.isChecked());
         window.click(album);
-        QCOMPARE(stored("PaircadeAlbum"), QByteArray("1"));
+        QCOMPARE(stored("PaircadeAlbum"), "1"_ba);
         window.wheel(window.decks(), -1);
         // The wheel passes over the separator.
         QCOMPARE(stored("CardDeck"), albums.isEmpty() ? "iPhoto" : "iPhoto: bee");
@@ -72,7 +72,7 @@ private Q_SLOTS:
         window.platform.photos.content.isComplete = true;
         window.open();
         QCOMPARE(window.decks().currentText(), u"Cyberpunk"_s);
-        QCOMPARE(stored("CardDeck"), QByteArray("Cyberpunk"));
+        QCOMPARE(stored("CardDeck"), "Cyberpunk"_ba);
     }
 
     void theNextRoundIsDealtFromTheChosenDeck()
@@ -86,7 +86,7 @@ private Q_SLOTS:
                       window.resources() + u"/Cards/Kids/kid.png"_s);
         QVERIFY(window.decks().hasFocus()); // the steppers are locked
         window.key(Qt::Key_Down);
-        QCOMPARE(stored("CardDeck"), QByteArray("Kids"));
+        QCOMPARE(stored("CardDeck"), "Kids"_ba);
         const auto isKid = [](const MemoryCard& card) { return card.image.name == u"kid"_s; };
         QVERIFY(std::ranges::none_of(window.game().cards(), isKid));
         for (int pair = 0; pair < 6; ++pair)
@@ -104,7 +104,7 @@ private Q_SLOTS:
         makeDeck(window.resources(), u"iPhoto"_s, 5);
         window.decks().setFocus();
         window.key(Qt::Key_Down);
-        QCOMPARE(stored("CardDeck"), QByteArray("iPhoto"));
+        QCOMPARE(stored("CardDeck"), "iPhoto"_ba);
         QCOMPARE(preview.accessibleName(), u"Backs of cards"_s);
         window.key(Qt::Key_Home);
         QCOMPARE(preview.accessibleName(),

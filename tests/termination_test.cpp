@@ -6,16 +6,13 @@
 #include "app/main_window.h"
 #include "app/termination.h"
 #include "game/game_status.h"
-#include "platform/widgets/access_question.h"
 #include "platform/widgets/alert_box.h"
 #include "settings/settings_keys.h"
 #include "support/play.h"
-#include "support/test_platform.h"
+#include "support/real_photos.h"
 #include "ui/content_view.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QDir>
 #include <QFileDialog>
 #include <QMenu>
 #include <QProcess>
@@ -23,6 +20,8 @@
 #include <QTimer>
 #include <csignal>
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,35 +33,35 @@ void bringUp(const QByteArray& under, AppDelegate& delegate, TestPlatform& platf
         auto* const action = delegate.window()->findChild<QAction*>(QString::fromLatin1(item));
         QTimer::singleShot(0, action, &QAction::trigger);
     };
+    const auto after = [&game](int milliseconds, const std::function<void()>& act) {
+        QTimer::singleShot(milliseconds, &game, act);
+    };
     if (under == "alert") {
         game.showLocalizedAlert("ok");
     } else if (under == "two alerts and a start") {
         game.showLocalizedAlert("ok");
         game.showLocalizedAlert("ok");
-        QTimer::singleShot(50, &game, &MemoryGame::startNewGame);
+        after(50, [&game] { game.startNewGame(); });
     } else if (under == "report's alert over a miss") {
         miss(game);
-        QDir().mkpath(platform.home.filePath(QStringLiteral("data/Paircade/highscores.html/x")));
+        QDir().mkpath(platform.home.filePath(u"data/Paircade/highscores.html/x"_s));
         choose("menu_open_highscores_html");
     } else if (under.startsWith("photo question")) {
-        platform.defaults->setString(SettingsKeys::CardDeck, QStringLiteral("iPhoto"));
-        QTimer::singleShot(20, &game, &MemoryGame::startNewGame);
-        if (under.endsWith("folder")) { // the choice of one above it
-            QTimer::singleShot(120, &game, [] {
-                QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
-            });
-        }
+        platform.defaults->setString(SettingsKeys::CardDeck, u"iPhoto"_s);
+        after(20, [&game] { game.startNewGame(); });
+        if (under.endsWith("folder")) // the choice of one above it
+            after(120, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
     } else if (under == "about box") {
         choose("menu_about");
     } else if (under == "preferences") {
         choose("menu_preferences");
     } else if (under == "open menu") {
-        auto* const menu = delegate.window()->findChild<QMenu*>(QStringLiteral("menu_game"));
-        QTimer::singleShot(0, menu, [menu] { menu->exec(); });
+        auto* const menu = delegate.window()->findChild<QMenu*>(u"menu_game"_s);
+        after(0, [menu] { menu->exec(); });
     } else if (under == "half a turn") {
-        QTimer::singleShot(150, &game, [&game] { flip(game, 0); });
+        after(150, [&game] { flip(game, 0); });
     } else if (under == "won board") {
-        QTimer::singleShot(100, &game, [&game] {
+        after(100, [&game] {
             while (game.isGameActive())
                 findPair(game);
         });
@@ -73,30 +72,19 @@ void bringUp(const QByteArray& under, AppDelegate& delegate, TestPlatform& platf
 /// prints what that brought about.
 int leaveBy(const QByteArray& fullWay)
 {
-    const QByteArray way = fullWay.mid(fullWay.indexOf(": ") < 0 ? 0 : fullWay.indexOf(": ") + 2);
+    const QByteArray way = fullWay.split(' ').constLast(); // one word
     const QByteArray under = fullWay.chopped(way.size()).replace(": ", "");
     QApplication::setQuitOnLastWindowClosed(false);
     AlertBox alerts;
     TestPlatform platform(&alerts);
     platform.useResources(platform.home.path());
-    makeDeck(platform.home.path(), QStringLiteral("Cyberpunk"), 6);
-    AccessQuestion question(platform.home.path());
-    PhotoLibrary photos(platform.photoAccess, &question, platform.home.path(),
-                        PhotoLibrary::helperOfRunningProgram());
-    const Platform services{*platform.defaults,
-                            ::platform().bundle,
-                            platform.mainQueue,
-                            platform.notifications,
-                            platform.audio,
-                            photos,
-                            alerts,
-                            platform.openedFiles};
-    usePlatform(&services);
+    makeDeck(platform.home.path(), u"Cyberpunk"_s, 6);
+    const RealPhotos photos(platform, alerts, platform.home.path());
     const Termination termination;
     AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
     MemoryGame& game = delegate.contentView()->game();
-    game.setPlayerName(QStringLiteral("Ann"));
+    game.setPlayerName(u"Ann"_s);
     game.startNewGame();
 
     int posts = 0;
@@ -105,21 +93,21 @@ int leaveBy(const QByteArray& fullWay)
     QTimer::singleShot(200, &delegate, [&] {
         posts = 0;
         const QWidget* const modal = QApplication::activeModalWidget();
-        const bool isModal = modal != nullptr;
-        if (isModal !=
-                (under.contains("alert") || under == "about box" || under.startsWith("photo")) ||
-            (under.endsWith("folder") != (qobject_cast<const QFileDialog*>(modal) != nullptr)) ||
+        const bool awaitsModal =
+            under.contains("alert") || under.contains("box") || under.contains("photo");
+        if ((modal != nullptr) != awaitsModal ||
+            (qobject_cast<const QFileDialog*>(modal) != nullptr) != under.endsWith("folder") ||
             (QApplication::activePopupWidget() != nullptr) != (under == "open menu"))
             std::abort();
         if (way == "SIGTERM")
             (void)std::raise(SIGTERM);
         else if (way == "SIGINT")
             (void)std::raise(SIGINT);
-        else if (way == "SIGPIPE then SIGHUP")
+        else if (way == "SIGHUP") // the terminal goes, and first with it what reads our output
             (void)(std::raise(SIGPIPE) + std::raise(SIGHUP));
         else if (way == "menu")
-            delegate.window()->findChild<QAction*>(QStringLiteral("menu_quit"))->trigger();
-        else if (way == "end of the session")
+            delegate.window()->findChild<QAction*>(u"menu_quit"_s)->trigger();
+        else if (way == "session")
             QCoreApplication::quit();
         else
             delegate.window()->close();
@@ -147,8 +135,8 @@ private Q_SLOTS:
         QTest::newRow("menu") << 0;
         QTest::newRow("SIGTERM") << 0;
         QTest::newRow("SIGINT") << 0;
-        QTest::newRow("SIGPIPE then SIGHUP") << 0;
-        QTest::newRow("end of the session") << 0;
+        QTest::newRow("SIGHUP") << 0;
+        QTest::newRow("session") << 0;
         for (const char* const under :
              {"alert", "two alerts and a start", "report's alert over a miss", "about box",
               "preferences", "open menu", "half a turn", "won board"})
@@ -166,14 +154,13 @@ private Q_SLOTS:
         QFETCH(int, posts);
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("--leave-by"), QString::fromLatin1(QTest::currentDataTag())});
+                    {u"--leave-by"_s, QString::fromLatin1(QTest::currentDataTag())});
         QVERIFY(child.waitForFinished(20'000));
         QCOMPARE(child.exitStatus(), QProcess::NormalExit);
         QCOMPARE(child.exitCode(), 0);
         QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()),
-                 QStringLiteral("posts %1, GameIsActive 0, entries %2")
-                     .arg(posts)
-                     .arg(QByteArray(QTest::currentDataTag()).startsWith("won") ? 1 : 0));
+                 u"posts %1, GameIsActive 0, entries %2"_s.arg(posts).arg(
+                     QByteArray(QTest::currentDataTag()).startsWith("won") ? 1 : 0));
     }
 };
 

@@ -11,6 +11,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 import uuid
 from pathlib import Path
@@ -28,7 +29,6 @@ from selenium.webdriver.support.ui import Select
 
 WRITER = sys.argv.pop(1)
 HOME = Path(tempfile.mkdtemp(prefix="paircade-browser-"))
-LAYOUTS = ["4x3", "4x4", "5x4", "6x4", "7x4", "8x5"]
 NAMES = [
     "<script>hacked = 1</script>", "<img src=x onerror=hacked=1>", "\"><svg onload=hacked=1>",
     "' onmouseover='hacked=1' x='", "`${hacked = 1}`", "</td></tr></table><h2>x", "<!-- x", "]]>",
@@ -107,18 +107,16 @@ class ReportPage(unittest.TestCase):
         self.assertIsNone(self.driver.execute_script("return window.hacked"))
 
     def open(self, records, locale="en_US.UTF-8", is_valid=True):
-        """Opens the page of the records; answers how long the game took to write it."""
+        """Opens the page of the records."""
         folder = HOME / "Paircade"
         folder.mkdir(exist_ok=True)
         (folder / "highscores.json").write_text(json.dumps(records))
-        said = subprocess.run([WRITER], check=True, capture_output=True, text=True, env={
-            **os.environ, "XDG_DATA_HOME": str(HOME), "LC_ALL": locale, "LANGUAGE": ""}).stdout
-        path, taken = said.rsplit(maxsplit=1)
+        path = Path(subprocess.run([WRITER], check=True, capture_output=True, text=True, env={
+            **os.environ, "XDG_DATA_HOME": str(HOME), "LC_ALL": locale, "LANGUAGE": ""}).stdout)
         if is_valid:
-            html5lib.HTMLParser(strict=True).parse(Path(path).read_bytes())
-        self.address = Path(path).as_uri()
+            html5lib.HTMLParser(strict=True).parse(path.read_bytes())
+        self.address = path.as_uri()
         self.driver.get(self.address)
-        return int(taken)
 
     def run_script(self, script, *arguments):
         return self.driver.execute_script(script, *arguments)
@@ -152,18 +150,13 @@ class ReportPage(unittest.TestCase):
                     self.driver.find_element(By.ID, "filter-rounds")).options],
                 [("", "Alle")] + [(str(value), str(value)) for value in rounds])
             chosen = {"cards": "", "rounds": "", "mode": ""}
-            descending, marked = {}, ["none"] * 6
-            marked[:3] = ['"↕"'] * 3
+            descending, sorted_by = {}, None
             for step in range(40):
                 action = pick.choice(["sort", "sort", *chosen, "reset"])
                 if action == "sort":
-                    key = pick.choice(["player", "time", "failures"])
+                    sorted_by = key = pick.choice(["player", "time", "failures"])
                     descending[key] = not descending.get(key, False)
                     expected.sort(key=lambda row: row.keys[key], reverse=descending[key])
-                    marked[:3] = ['"↕"'] * 3
-                    column = ["player", "time", "failures"].index(key)
-                    marked[column] = ('sorted-desc" ▼"' if descending[key]
-                                      else 'sorted-asc" ▲"')
                     self.click(f"th[data-sort={key}]")
                 elif action == "reset":
                     chosen = dict.fromkeys(chosen, "")
@@ -178,7 +171,10 @@ class ReportPage(unittest.TestCase):
                     self.assertEqual(self.rows(visible=True), [
                         row.name for row in expected
                         if all(value in ("", row.filters[key]) for key, value in chosen.items())])
-                    self.assertEqual(self.marks(), marked)
+                    self.assertEqual(self.marks(), [
+                        '"↕"' if key != sorted_by else
+                        'sorted-desc" ▼"' if descending[key] else 'sorted-asc" ▲"'
+                        for key in ("player", "time", "failures")] + ["none"] * 3)
 
     def test_names_stay_text(self):
         for name in NAMES:
@@ -227,9 +223,9 @@ class ReportPage(unittest.TestCase):
         self.assertRegex(self.driver.find_element(By.CLASS_NAME, "generated").text,
                          r"^Erstellt am \d\d\.\d\d\.\d{4}, \d\d:\d\d$")
         shown = self.run_script("return [...document.querySelectorAll('tbody tr')].map("
-                                "r => [...r.cells].map(c => c.textContent))")
-        self.assertEqual(shown, [["Ann", "01:15", "0", layout, "1", "Einzelspiel"]
-                                 for layout in LAYOUTS + ["7"]])
+                                "r => [...r.cells].map(c => c.textContent).join(' '))")
+        self.assertEqual(shown, [f"Ann 01:15 0 {layout} 1 Einzelspiel"
+                                 for layout in "4x3 4x4 5x4 6x4 7x4 8x5 7".split()])
 
     def test_light_dark_and_narrow(self):
         self.open([random_record(number) for number in range(60)])
@@ -241,37 +237,29 @@ class ReportPage(unittest.TestCase):
             for width in (1280, 390):
                 self.driver.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {
                     "width": width, "height": 844, "deviceScaleFactor": 1, "mobile": width < 400})
+                # Only the table's frame scrolls sideways, and every filter is in sight.
+                *colours, overflow, right = self.run_script(
+                    "const of = s => getComputedStyle(document.querySelector(s));"
+                    "const page = document.documentElement;"
+                    "const ends = [...document.querySelectorAll('select, button')].map("
+                    "    e => e.getBoundingClientRect().right);"
+                    "return [of('body').backgroundColor, of('.table-wrap').backgroundColor,"
+                    "        of('td').color, page.scrollWidth - page.clientWidth,"
+                    "        Math.max(...ends)]")
                 with self.subTest(scheme=scheme, width=width):
-                    colours = self.run_script(
-                        "const of = s => getComputedStyle(document.querySelector(s));"
-                        "return [of('body').backgroundColor, of('.table-wrap').backgroundColor,"
-                        "        of('td').color]")
                     self.assertEqual(colours, [f"rgb({c})" for c in (ground, card, text)])
-                    # Only the table's frame scrolls sideways, and every filter is in sight.
-                    overflow, right = self.run_script(
-                        "const right = e => e.getBoundingClientRect().right;"
-                        "const page = document.documentElement;"
-                        "return [page.scrollWidth - page.clientWidth,"
-                        "        Math.max(...[...document.querySelectorAll('select, button')]"
-                        "                 .map(right))]")
                     self.assertEqual(overflow, 0)
                     self.assertLessEqual(right, width - 32)
         self.driver.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": []})
 
     def test_ten_thousand_rows(self):
-        records = [random_record(number) for number in range(10_000)]
-        written = self.open(records, is_valid=False)
+        self.open([random_record(number) for number in range(10_000)], is_valid=False)
+        began = time.monotonic()
+        for key in ("player", "time", "failures"):
+            self.click(f"th[data-sort={key}]")
         self.assertEqual(len(self.rows(visible=True)), 10_000)
-        times = [self.run_script(
-            "const began = performance.now();"
-            f"document.querySelector('th[data-sort={key}]').click();"
-            "const sorted = performance.now();"
-            "document.body.getBoundingClientRect();"
-            "return [sorted - began, performance.now() - sorted].map(Math.round)")
-            for key in ("player", "time", "failures")]
-        print(f"10,000 results: written in {written} ms; [sorted, laid out] in ms: {times}")
-        # The aim for sorting is 500 ms; a busy machine may take longer, but not this long.
-        self.assertLess(max(map(sum, times)), 10_000)
+        # Each takes half a second at most; a busy machine may take longer, but not this long.
+        self.assertLess(time.monotonic() - began, 30)
 
 
 if __name__ == "__main__":

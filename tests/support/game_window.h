@@ -11,10 +11,12 @@
 #include "ui/content_view.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -41,6 +43,8 @@ public:
     [[nodiscard]] QString resources() const { return platform.home.path(); }
     [[nodiscard]] MemoryGame& game() { return delegate.contentView()->game(); }
     [[nodiscard]] MainWindow& window() { return *delegate.window(); }
+
+    [[nodiscard]] QRect screen() { return window().screen()->geometry(); }
 
     template <class Widget>
     [[nodiscard]] Widget& child(const QString& name)
@@ -69,7 +73,13 @@ public:
                           widget.mapTo(widget.window(), place));
         QCoreApplication::processEvents();
     }
+    void click(const QString& name) { click(child<QWidget>(name)); }
     void clickCard(std::size_t position) { click(card(position)); }
+    void choose(const QString& menuItem)
+    {
+        child<QAction>(menuItem).trigger();
+        QCoreApplication::processEvents();
+    }
 
     /// Keys go to the window, as from a keyboard, and so to what has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
@@ -110,18 +120,31 @@ public:
     AppDelegate delegate{};
 };
 
-/// Calls `look` on the message box that comes up next, then clicks its button.
-inline void whenAlerted(const std::function<void(QMessageBox&)>& look, int tries = 100)
+/// Calls `act` on the next modal `Dialog` once it is active. A failure closes whatever
+/// waits for an answer.
+template <class Dialog>
+void whenShown(const std::function<void(Dialog&)>& act, int tries = 200)
 {
-    QTimer::singleShot(20, qApp, [look, tries] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box != nullptr) {
-            look(*box);
-            QTest::mouseClick(box->buttons().constFirst(), Qt::LeftButton);
-        } else if (tries > 0) {
-            whenAlerted(look, tries - 1);
-        } else {
-            QTest::qFail("no alert came up", __FILE__, __LINE__);
-        }
+    QTimer::singleShot(20, qApp, [act, tries] {
+        auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (dialog != nullptr)
+            dialog->activateWindow(); // as a window manager does
+        if (dialog != nullptr && dialog->isActiveWindow())
+            act(*dialog);
+        else if (tries > 0)
+            whenShown(act, tries - 1);
+        else
+            QTest::qFail("no such dialog comes up", __FILE__, __LINE__);
+        while (QTest::currentTestFailed() && QApplication::activeModalWidget() != nullptr)
+            QApplication::activeModalWidget()->close();
+    });
+}
+
+/// Calls `look` on the message box that comes up next, then clicks its button.
+inline void whenAlerted(const std::function<void(QMessageBox&)>& look)
+{
+    whenShown<QMessageBox>([look](QMessageBox& box) {
+        look(box);
+        QTest::mouseClick(box.buttons().constFirst(), Qt::LeftButton);
     });
 }

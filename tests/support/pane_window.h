@@ -25,7 +25,7 @@ inline QByteArray stored(const QByteArray& key)
         if (line.startsWith(key + '='))
             return line.mid(key.size() + 1);
     }
-    return "no key";
+    return "nothing";
 }
 
 /// The preferences over the real game, opened from the main window by their shortcut.
