@@ -7,7 +7,6 @@
 #include "ui/device_pixels.h"
 #include "ui/transition.h"
 
-#include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -61,11 +60,8 @@ QPixmap facePixmap(qreal edge, qreal devicePixelRatio, Paint paint)
 void paintBackGround(QPainter& painter, const QRectF& card)
 {
     paintShadow(painter, card);
-    QLinearGradient ground(card.topLeft(), card.bottomRight());
-    ground.setColorAt(0, Colours::cardBackLight);
-    ground.setColorAt(1, Colours::cardBackDark);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ground);
+    painter.setBrush(Colours::cardBack(card));
     painter.drawRoundedRect(card, cornerRadius, cornerRadius);
     strokeOutline(painter, card, Colours::withOpacity(Qt::white, 0.25), 2);
 }
