@@ -27,9 +27,11 @@ public:
     /// Moves the window to the middle of the display's free area.
     void centre();
 
+    /// Fills the screen, or goes back to the size of setContentSize().
     void toggleFullScreen();
 
 Q_SIGNALS:
+    /// The window has come to fill the screen, or does no longer, whoever wanted it.
     void fullScreenChanged(bool isFullScreen);
 
     /// The window was painted for the first time. What its picture does not show
