@@ -7,6 +7,7 @@
 #include "platform/localized_text.h"
 #include "platform/platform.h"
 #include "platform/widgets/logo.h"
+#include "ui/card_faces.h"
 #include "ui/card_texts.h"
 #include "ui/colours.h"
 
@@ -43,11 +44,7 @@ QPixmap makeTile(qreal pixelRatio, Paint paint)
 
 QPixmap pictureTile(const QImage& picture, qreal pixelRatio)
 {
-    const QSize pixels = QSize(tileEdge, tileEdge) * pixelRatio;
-    QImage scaled =
-        picture.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    scaled = scaled.copy((scaled.width() - pixels.width()) / 2,
-                         (scaled.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+    QImage scaled = CardFaces::filling(picture, QSize(tileEdge, tileEdge) * pixelRatio);
     scaled.setDevicePixelRatio(pixelRatio);
     return makeTile(pixelRatio, [&](QPainter& painter, const QRectF& tile) {
         // Filling with a brush cuts the corners smoothly; a clip would not.
