@@ -46,7 +46,9 @@ protected:
 
 private:
     void applyContentSize();
+    /// Sizes and centres the window for the frame that the window manager has laid by now.
     void settle();
+    /// Settles as soon as that frame changes, for as long as one may still come.
     void awaitFrame();
     void liftLimits();
     [[nodiscard]] QSize frameSize() const { return frameGeometry().size() - geometry().size(); }
