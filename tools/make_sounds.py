@@ -5,7 +5,7 @@
 
 Every sound is cards landing on small wooden bars in one small room, in G major
 pentatonic. SOUNDS says what is played, the tables before it how it sounds.
-Needs NumPy, SciPy and the program lame; every run gives the same files.
+Needs what "tools/install-packages sounds" installs; every run gives the same files.
 """
 
 import subprocess

@@ -27,9 +27,11 @@ public:
     /// Moves the window to the middle of the display's free area.
     void centre();
 
+    /// Fills the screen, or goes back to the size of setContentSize().
     void toggleFullScreen();
 
 Q_SIGNALS:
+    /// The window has come to fill the screen, or does no longer, whoever wanted it.
     void fullScreenChanged(bool isFullScreen);
 
     /// The window was painted for the first time. What its picture does not show
@@ -44,7 +46,9 @@ protected:
 
 private:
     void applyContentSize();
+    /// Sizes and centres the window for the frame that the window manager has laid by now.
     void settle();
+    /// Settles as soon as that frame changes, for as long as one may still come.
     void awaitFrame();
     void liftLimits();
     [[nodiscard]] QSize frameSize() const { return frameGeometry().size() - geometry().size(); }

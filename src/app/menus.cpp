@@ -25,7 +25,15 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
 {
     m_items->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
     connect(&platform().mainQueue, &MainQueue::heldChanged, m_items, &QActionGroup::setDisabled);
+    addGameMenu();
+    addViewMenu();
+    addHelpMenu();
+    connect(&m_game, &MemoryGame::changed, this, &Menus::scheduleRefresh);
+    refresh();
+}
 
+void Menus::addGameMenu()
+{
     QMenu* const gameMenu = addMenu("menu_game");
     m_newGame = addItem(gameMenu, "menu_new_game", [this] {
         // The choice may come before the item is disabled.
@@ -53,7 +61,10 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
     // Also from the preferences.
     quit->setShortcutContext(Qt::ApplicationShortcut);
     quit->setMenuRole(QAction::QuitRole);
+}
 
+void Menus::addViewMenu()
+{
     QMenu* const viewMenu = addMenu("menu_view");
     QAction* const fullScreen =
         addItem(viewMenu, "menu_full_screen", [this] { m_window.toggleFullScreen(); });
@@ -61,7 +72,10 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
     fullScreen->setCheckable(true);
     fullScreen->setAutoRepeat(false);
     connect(&m_window, &MainWindow::fullScreenChanged, fullScreen, &QAction::setChecked);
+}
 
+void Menus::addHelpMenu()
+{
     QMenu* const helpMenu = addMenu("menu_help");
     QAction* const status = addItem(helpMenu, "menu_status", [this] { Q_EMIT statusChosen(); });
     status->setShortcut(QKeySequence(Qt::Key_F1));
@@ -74,9 +88,6 @@ Menus::Menus(MainWindow& window, MemoryGame& game)
                         localizedText("about_text", {QStringLiteral(PAIRCADE_VERSION)}));
     });
     about->setMenuRole(QAction::AboutRole);
-
-    connect(&m_game, &MemoryGame::changed, this, &Menus::scheduleRefresh);
-    refresh();
 }
 
 QMenu* Menus::addMenu(const char* key)

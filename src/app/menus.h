@@ -17,6 +17,7 @@ class Menus : public QObject {
     Q_OBJECT
 
 public:
+    /// Fills the menu bar of `window`, which owns this, with what `game` can do.
     Menus(MainWindow& window, MemoryGame& game);
 
 Q_SIGNALS:
@@ -26,6 +27,9 @@ Q_SIGNALS:
     void statusChosen();
 
 private:
+    void addGameMenu();
+    void addViewMenu();
+    void addHelpMenu();
     [[nodiscard]] QMenu* addMenu(const char* key);
     QAction* addItem(QMenu* menu, const char* key, const std::function<void()>& action);
     void scheduleRefresh();

@@ -12,6 +12,7 @@ class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
+    /// How a claim came out.
     enum class Claim {
         isOurs,     ///< No other game uses the folder, or none can be detected.
         handedOver, ///< Another one does; it was brought to the front.

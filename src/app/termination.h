@@ -13,6 +13,7 @@ class Termination : public QObject {
     Q_OBJECT
 
 public:
+    /// Takes over the signals; there is one at a time. The destructor gives them back.
     Termination();
     ~Termination() override;
 

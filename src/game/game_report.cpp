@@ -40,6 +40,7 @@ QString MemoryGame::buildHighscoresHTML(const HighscoreEntries& entries) const
     return buildReport(
         entries, {.language = locale.left(2),
                   .title = localizedText("highscores_html_title"),
+                  // The first is a number that no language shows; its place is taken.
                   .subtitle = localizedText(
                       "highscores_html_subtitle",
                       {current.amountCards + 2, current.amountCards, current.amountRounds}),

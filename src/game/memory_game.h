@@ -123,11 +123,15 @@ public:
     // Derived values, computed at every read.
     /// The versus names trimmed, each with a fallback for an empty one.
     [[nodiscard]] std::array<QString, 2> playerNames() const;
+    /// A name was typed for a one-player game; white space is none.
     [[nodiscard]] bool canStartGame() const;
+    /// Both names were typed for a versus game.
     [[nodiscard]] bool canStartVersusGame() const;
     /// Whether startNewGame() would start a game in the current mode.
     [[nodiscard]] bool canStart() const;
+    /// elapsedSeconds() as clockText() writes it.
     [[nodiscard]] QString formattedElapsedTime() const;
+    /// The board of the settings: read at each call, as a round is dealt by them.
     [[nodiscard]] int cardColumns() const { return layout().columns; }
     [[nodiscard]] int cardRows() const { return layout().rows; }
     [[nodiscard]] int pairsPerRound() const { return layout().pairs(); }
@@ -139,12 +143,16 @@ public:
     [[nodiscard]] std::optional<QString> selectedPhotoAlbumName() const;
 
     // The attempt in progress and the machinery, for tests.
+    /// The place of the first card of an attempt; none between two attempts.
     [[nodiscard]] std::optional<std::size_t> firstSelectedIndex() const
     {
         return m_firstSelectedIndex;
     }
+    /// Two cards lie open, and taps are ignored until they are settled.
     [[nodiscard]] bool isCheckingPair() const { return m_isCheckingPair; }
+    /// The running clock; null while none runs.
     [[nodiscard]] const QTimer* timer() const { return m_timer.get(); }
+    /// Whether the current game's first card was turned.
     [[nodiscard]] bool timerStarted() const { return m_timerStarted; }
     /// The player of the sound that was asked for last; none before the first.
     [[nodiscard]] const AudioPlayer* audioPlayer() const { return m_audioPlayer; }
@@ -164,11 +172,14 @@ public:
     void updateHeaderForCurrentTurn();
     /// Stops the running game; a versus game is recorded as it stands.
     void endGame();
+    /// The last pair of a one-player game was found: stores and tells the result.
     void finishSoloGame();
+    /// The same for a versus game, with its winner or a draw.
     void finishVersusGame();
     /// Starts the clock at once, instead of one that runs.
     void startTimer();
 
+    // Each as playSoundEffect() does.
     void playCardFlipSound();
     void playCardDoneSound();
     void playCardResetSound();
@@ -189,6 +200,7 @@ public:
     void openHighscoresHTML();
 
     // Image sources: the pictures to deal from; short or empty on any failure.
+    /// Every picture of the deck of the settings; see loadBundleDeck().
     [[nodiscard]] CardPictures loadImagesFromBundle() const;
     /// At most as many as a round needs, drawn from the album of the deck, or else
     /// from the whole library. Asks for access where the user was never asked, and

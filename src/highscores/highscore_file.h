@@ -35,6 +35,8 @@ struct StoredHighscores {
 /// if that fails. Like the two below it lets std::bad_alloc through.
 [[nodiscard]] bool writeHighscores(const QString& file, const HighscoreEntries& entries);
 
+// What follows is in highscore_json.cpp.
+
 /// The records that `json` holds: an array of objects, all or nothing.
 ///
 /// A required member that is missing or null, a member of another type, an id

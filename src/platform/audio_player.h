@@ -15,8 +15,8 @@
 /// device that has nothing to play is closed, and opened again by the next call.
 class AudioPlayer {
 public:
-    /// Called on the player's thread, or on the caller's if there is none to be had, with the words
-    /// for what went wrong.
+    /// Called with the words for what went wrong, on the player's thread, or on the
+    /// caller's if there is none to be had.
     using Failure = std::function<void(const QString& description)>;
 
     /// How long an open device may have nothing to play; it costs processor time all

@@ -18,6 +18,7 @@ struct PhotoAlbum {
     QByteArray folder{};                     ///< Its path in the library, in the system's bytes.
 };
 
+/// A list of albums, and whether it came to its end.
 struct PhotoAlbums {
     std::vector<PhotoAlbum> list{};
     bool isComplete = true; ///< Otherwise there may be more than could be listed.
@@ -44,6 +45,7 @@ public:
     PhotoFetch(const PhotoFetch&) = delete;
     PhotoFetch& operator=(const PhotoFetch&) = delete;
 
+    /// Whether it is looked into each album, which takes its time.
     enum class Counted { no, upToOne };
 
     /// The albums in the order of their titles. Those that are not counted have a

@@ -40,6 +40,7 @@ public:
 
     [[nodiscard]] State state() const { return m_state; }
 
+    /// Asks; receive() has the answers. Does nothing once the helper is not running.
     void send(PhotoMessages::Kind request, QByteArrayView content = {});
 
     /// The next reply; none once the helper is not running. Where `deadline` passes

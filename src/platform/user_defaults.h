@@ -36,6 +36,7 @@ public:
     /// The text under `key`; none for a missing key.
     [[nodiscard]] std::optional<QString> string(QLatin1String key) const;
 
+    /// Stores under `key` what is read from now on, whether or not the file takes it.
     void setInteger(QLatin1String key, std::int64_t value);
     void setString(QLatin1String key, const QString& value);
 

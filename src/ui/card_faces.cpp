@@ -7,7 +7,6 @@
 #include "ui/device_pixels.h"
 #include "ui/transition.h"
 
-#include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -61,11 +60,8 @@ QPixmap facePixmap(qreal edge, qreal devicePixelRatio, Paint paint)
 void paintBackGround(QPainter& painter, const QRectF& card)
 {
     paintShadow(painter, card);
-    QLinearGradient ground(card.topLeft(), card.bottomRight());
-    ground.setColorAt(0, Colours::cardBackLight);
-    ground.setColorAt(1, Colours::cardBackDark);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ground);
+    painter.setBrush(Colours::cardBack(card));
     painter.drawRoundedRect(card, cornerRadius, cornerRadius);
     strokeOutline(painter, card, Colours::withOpacity(Qt::white, 0.25), 2);
 }
@@ -90,6 +86,14 @@ QPixmap CardFaces::backSide(qreal edge, qreal devicePixelRatio)
     });
 }
 
+QImage CardFaces::filling(const QImage& picture, QSize pixels)
+{
+    const QImage scaled =
+        picture.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    return scaled.copy((scaled.width() - pixels.width()) / 2,
+                       (scaled.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+}
+
 QPixmap CardFaces::frontSide(const QImage& picture, qreal edge, qreal devicePixelRatio)
 {
     return facePixmap(edge, devicePixelRatio, [&](QPainter& painter, const QRectF& card) {
@@ -104,11 +108,7 @@ QPixmap CardFaces::frontSide(const QImage& picture, qreal edge, qreal devicePixe
         const qreal inset = DevicePixels::whole(imageInset, devicePixelRatio);
         const QRectF frame = card.adjusted(inset, inset, -inset, -inset);
         const QSize pixels = (frame.size() * devicePixelRatio).toSize();
-        QImage scaled =
-            picture.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-        scaled =
-            scaled.copy((scaled.width() - pixels.width()) / 2,
-                        (scaled.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+        const QImage scaled = filling(picture, pixels);
         // A brush repeats its image, and the frame may end between two pixels: a
         // seam around it keeps the far side out of there.
         constexpr int seam = 1;

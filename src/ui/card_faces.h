@@ -27,7 +27,10 @@ inline constexpr qreal imageInset = 8;    ///< From the card's edge to its pictu
 /// The whole back: the ground and the logo.
 [[nodiscard]] QPixmap backSide(qreal edge, qreal devicePixelRatio);
 
-/// The picture's face without its outline. `picture` is cut to fill its frame.
+/// `picture` scaled until it covers `pixels`, and the middle of that.
+[[nodiscard]] QImage filling(const QImage& picture, QSize pixels);
+
+/// The picture's face without its outline, `picture` filling its frame.
 [[nodiscard]] QPixmap frontSide(const QImage& picture, qreal edge, qreal devicePixelRatio);
 
 /// What keeps a translucent face that fills `card` apart from those under it:

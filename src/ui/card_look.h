@@ -30,6 +30,7 @@ inline constexpr double cardTurnSeconds = 0.45;
             .found = isMatched ? 1.0 : 0.0};
 }
 
+/// The look `share` of the way from `from` to `to`.
 [[nodiscard]] constexpr CardLook mix(const CardLook& from, const CardLook& to, double share)
 {
     return {.turn = mix(from.turn, to.turn, share),

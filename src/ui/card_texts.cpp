@@ -6,18 +6,21 @@
 
 #include <algorithm>
 
-QString pictureName(const MemoryCards& cards, const MemoryCard& card)
+QString pictureName(const QString& fileName)
 {
-    const QString& fileName = card.image.name;
-    if (fileName.isEmpty()) {
-        // The ids are random, and each occurs twice.
-        const auto before = std::ranges::count_if(
-            cards, [&card](const MemoryCard& other) { return other.pairID < card.pairID; });
-        return localizedText("picture_without_name", {before / 2 + 1});
-    }
     const QString key = QStringLiteral("card_") + fileName;
     const QString name = localizedText(key);
     return name == key ? fileName : name;
+}
+
+QString pictureName(const MemoryCards& cards, const MemoryCard& card)
+{
+    if (!card.image.name.isEmpty())
+        return pictureName(card.image.name);
+    // The ids are random, and each occurs twice.
+    const auto before = std::ranges::count_if(
+        cards, [&card](const MemoryCard& other) { return other.pairID < card.pairID; });
+    return localizedText("picture_without_name", {before / 2 + 1});
 }
 
 QString cardText(const MemoryCards& cards, std::size_t position, int columns, bool removeMatch)

@@ -4,7 +4,10 @@
 
 #include "game/memory_card.h"
 
-/// What the picture of `card` is called; its file's name if that has no text.
+/// What a picture of a deck is called; `fileName`, its file's base name, if it has no text.
+[[nodiscard]] QString pictureName(const QString& fileName);
+
+/// What the picture of `card` is called.
 ///
 /// A photo has no name and is numbered instead, so that it can be told from the
 /// others on the board `cards` by ear: from 1, in an order that tells no places.

@@ -2,7 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/colours.h"
 
+#include "platform/widgets/appearance.h"
+
 namespace Colours {
+
+QLinearGradient cardBack(const QRectF& card)
+{
+    QLinearGradient back(card.topLeft(), card.bottomRight());
+    back.setColorAt(0, QColor(0x14, 0xA8, 0xBD));
+    back.setColorAt(1, QColor(0x08, 0x6B, 0x8A));
+    return back;
+}
 
 QColor withOpacity(QColor colour, double opacity)
 {
@@ -17,6 +27,8 @@ QColor systemBlue(const QPalette& palette)
 
 QColor focusRing(const QPalette& palette)
 {
+    if (Appearance::isContrastHigh())
+        return palette.color(QPalette::WindowText);
     return isDark(palette) ? QColor(0x9C, 0xCB, 0xFF) : QColor(0x0A, 0x4D, 0xB8);
 }
 

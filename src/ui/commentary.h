@@ -17,6 +17,7 @@ class Commentary : public QObject {
     Q_OBJECT
 
 public:
+    /// Begins to listen to `game`.
     explicit Commentary(const MemoryGame& game, QObject* parent);
 
     /// What is to be said of what has happened, as sentences; empty if nothing.

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/elided_label.h"
 
+#include "platform/widgets/whole_text.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QToolTip>
 #include <algorithm>
 
 namespace {
@@ -79,13 +80,7 @@ bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    // Rich text is asked for, so that the name "<b>" is not taken for it.
-    if (const QString whole = wholeText(); shownText() != whole)
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                           QStringLiteral("<p>") + whole.toHtmlEscaped() + QStringLiteral("</p>"),
-                           this);
-    else
-        QToolTip::hideText();
+    tellWholeText(*static_cast<QHelpEvent*>(event), this, shownText(), wholeText());
     return true;
 }
 

@@ -17,6 +17,7 @@ class ElidedLabel : public QLabel {
     Q_OBJECT
 
 public:
+    /// An empty line.
     explicit ElidedLabel(const QString& objectName, QWidget* parent);
 
     /// Shows `text`. `names` are what it quotes, in the order in which they stand

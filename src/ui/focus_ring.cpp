@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/focus_ring.h"
 
-#include "platform/widgets/appearance.h"
 #include "ui/colours.h"
 #include "ui/memory_card_view.h"
 
@@ -25,9 +24,7 @@ protected:
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(Appearance::isContrastHigh() ? palette().color(QPalette::WindowText)
-                                                         : Colours::focusRing(palette()),
-                            ringWidth));
+        painter.setPen(QPen(Colours::focusRing(palette()), ringWidth));
         const qreal inset = ringWidth / 2;
         painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), ringRadius,
                                 ringRadius);

@@ -21,6 +21,7 @@ class FrameTimer : public QObject {
     Q_OBJECT
 
 public:
+    /// At the pace of the screen that `shownIn` lies on.
     explicit FrameTimer(QWidget* shownIn);
 
     /// Frames come until stop(). Started again, it goes on.
@@ -29,6 +30,7 @@ public:
     [[nodiscard]] bool isRunning() const { return m_timer.isActive(); }
 
 Q_SIGNALS:
+    /// Something that moves has to be painted anew.
     void frame();
 
 private:

@@ -205,10 +205,8 @@ void GameBoard::paintFocusRing(QPainter& painter) const
     if (!m_isFocusRingShown || m_focusedPosition >= m_tiles.size() ||
         !m_tiles[m_focusedPosition]->hasFocus())
         return;
-    const bool isContrastHigh = Appearance::isContrastHigh();
-    painter.setPen(
-        QPen(isContrastHigh ? palette().color(QPalette::WindowText) : Colours::focusRing(palette()),
-             isContrastHigh ? ringWidth + 1 : ringWidth));
+    painter.setPen(QPen(Colours::focusRing(palette()),
+                        Appearance::isContrastHigh() ? ringWidth + 1 : ringWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(place(*m_tiles[m_focusedPosition])
                                 .adjusted(-ringDistance, -ringDistance, ringDistance, ringDistance),

@@ -15,6 +15,7 @@ class Header : public QWidget {
 public:
     Header(const MemoryGame& game, QWidget* parent);
 
+    /// Shows the line that the game has for it now.
     void refresh();
 
 private:

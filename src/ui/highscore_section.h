@@ -23,6 +23,7 @@ public:
     /// Makes the lines as children of `column`.
     HighscoreSection(const MemoryGame& game, QWidget* column);
 
+    /// Fills the lines with the game's lists and hides those that are left over.
     void refresh();
 
     /// Every heading and line, shown or not, from top to bottom.

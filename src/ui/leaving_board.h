@@ -15,11 +15,13 @@ class LeavingBoard : public QWidget {
     Q_OBJECT
 
 public:
+    /// A card of the won board, and where it lies.
     struct Card {
         TurningCard face;
         QRectF place{}; ///< In this widget's points.
     };
 
+    /// Begins at once.
     LeavingBoard(std::vector<Card> cards, QWidget* parent);
 
 Q_SIGNALS:

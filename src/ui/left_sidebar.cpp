@@ -78,6 +78,25 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     QPushButton* const reportButton = addButton("open_highscores_html", "reportButton", 6);
     connect(reportButton, &QPushButton::clicked, &m_game, &MemoryGame::openHighscoresHTML);
 
+    addVersusCheckbox();
+
+    m_endButton = addButton("end_game", "endButton", 6);
+    // A screen reader may press what is about to go.
+    connect(m_endButton, &QPushButton::clicked, &m_game, [this] {
+        if (m_game.isGameActive())
+            m_game.endGame();
+    });
+
+    // A screen reader reads in this order.
+    for (const Row& row : m_rows)
+        (row.isHighscore ? m_highscoreArea : row.widget)->raise();
+    alignButtons();
+    makePlain(*this, m_column);
+    followAppearance();
+}
+
+void LeftSidebar::addVersusCheckbox()
+{
     m_versusCheckbox = new QCheckBox(controlText("versus_mode"), m_column);
     m_versusCheckbox->setObjectName(QStringLiteral("versusCheckbox"));
     m_versusCheckbox->setFont(systemFont(13, QFont::DemiBold));
@@ -96,19 +115,11 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
         // The lists of the other mode are empty until somebody asks for them.
         m_game.reloadHighscoresForCurrentSettings();
     });
+}
 
-    m_endButton = addButton("end_game", "endButton", 6);
-    // A screen reader may press what is about to go.
-    connect(m_endButton, &QPushButton::clicked, &m_game, [this] {
-        if (m_game.isGameActive())
-            m_game.endGame();
-    });
-
-    // A screen reader reads in this order.
-    for (const Row& row : m_rows)
-        (row.isHighscore ? m_highscoreArea : row.widget)->raise();
-
-    // One clean column, as wide as its widest text.
+/// One clean column, as wide as its widest text.
+void LeftSidebar::alignButtons()
+{
     int widest = buttonWidth;
     for (const Row& row : m_rows) {
         if (qobject_cast<QPushButton*>(row.widget) != nullptr)
@@ -118,9 +129,6 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
         if (qobject_cast<QPushButton*>(row.widget) != nullptr)
             row.width = std::min(widest, ScreenMetrics::leftPanelWidth);
     }
-
-    makePlain(*this, m_column);
-    followAppearance();
 }
 
 ElidedLabel* LeftSidebar::addLine(const char* name, int width, const QFont& font)

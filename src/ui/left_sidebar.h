@@ -22,6 +22,7 @@ class LeftSidebar : public QScrollArea {
 public:
     LeftSidebar(MemoryGame& game, QWidget* parent);
 
+    /// Shows what the game holds, and lays the column out for it.
     void refresh();
     /// Takes over the colours that the desktop asks for.
     void followAppearance();
@@ -48,6 +49,8 @@ private:
 
     [[nodiscard]] ElidedLabel* addLine(const char* name, int width, const QFont& font);
     [[nodiscard]] QPushButton* addButton(const char* key, const char* name, int above);
+    void addVersusCheckbox();
+    void alignButtons();
     void showMode();
     void refreshPlayerLines();
     void arrange();

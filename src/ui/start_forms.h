@@ -15,7 +15,9 @@ class SinglePlayerStartView : public QWidget {
 public:
     SinglePlayerStartView(MemoryGame& game, QWidget* parent);
 
+    /// Shows the game's name, and whether it suffices.
     void refresh();
+    /// Gives the focus to the field.
     void focusField();
     /// Where its topmost control begins, in this widget's points.
     [[nodiscard]] int controlsTop() const;
@@ -33,6 +35,7 @@ class VersusStartView : public QWidget {
 public:
     VersusStartView(MemoryGame& game, QWidget* parent);
 
+    /// Shows the game's names, and whether they suffice.
     void refresh();
     /// Gives the focus to the first empty field, to the first if none is empty.
     void focusField();

@@ -28,6 +28,7 @@ class Transition {
 public:
     using Curve = double (*)(double progress);
 
+    /// Rests at `value`.
     explicit Transition(Value value)
         : m_from(value)
         , m_to(std::move(value))
@@ -55,12 +56,12 @@ public:
         m_seconds = 0;
     }
 
+    /// Where it is at this moment of frameTime().
     [[nodiscard]] Value value() const
     {
         const double share = progress();
         return share >= 1 ? m_to : mix(m_from, m_to, m_curve(share));
     }
-    [[nodiscard]] const Value& target() const { return m_to; }
     [[nodiscard]] bool isMoving() const { return progress() < 1; }
 
 private:

@@ -18,6 +18,7 @@ class QPainter;
 /// fills, in points.
 class TurningCard {
 public:
+    /// Shows its back, whatever the state of `card`, until it is told otherwise.
     explicit TurningCard(const MemoryCard& card);
 
     [[nodiscard]] const MemoryCard& card() const { return m_card; }
@@ -49,6 +50,7 @@ public:
     /// Where the card in `place` paints at this moment, in whole points.
     [[nodiscard]] QRect reach(const QRectF& place) const;
 
+    /// Draws the card in `place` as it looks at this moment.
     void paint(QPainter& painter, const QRectF& place);
 
 private:

@@ -21,6 +21,7 @@ inline constexpr qsizetype pictureBytes = qsizetype{4} * pictureEdge * pictureEd
 /// The longest content of a frame; a longer one is an error.
 inline constexpr quint32 longestContent = quint32{pictureBytes} + 1;
 
+/// What a frame asks or answers.
 enum class Kind : std::uint8_t {
     // Requests.
     countedAlbums, ///< No content. Replies: album, each with its count, then done.
@@ -49,6 +50,7 @@ struct Frame {
 /// Puts frames together from bytes as they arrive.
 class FrameReader {
 public:
+    /// Takes what has arrived, in pieces of any length.
     void append(QByteArrayView bytes);
 
     /// The next frame; none as long as it is not complete.

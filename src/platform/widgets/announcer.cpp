@@ -38,39 +38,45 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object)
     return nullptr;
 }
 
-} // namespace
-
-Announcer::Announcer(QWidget* parent)
-    : QWidget(parent)
+void prepare()
 {
-    setObjectName(QStringLiteral("announcer"));
     QAccessible::installFactory(makeInterface); // once, however often it is asked for
-    hide();
 }
 
-void Announcer::say(const QString& text)
+void announce(const QString& text, Announcer* announcer)
 {
-    if (text.isEmpty() || !QAccessible::isActive())
-        return;
-    QAccessibleEvent event(new Notice(text, this), QAccessible::ObjectShow);
+    QAccessibleEvent event(new Notice(text, announcer), QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }
+
+} // namespace
 
 #else
 
+namespace {
+
+void prepare() {}
+
+void announce(const QString& text, Announcer* announcer)
+{
+    QAccessibleAnnouncementEvent event(announcer->window(), text);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
+
+#endif
+
 Announcer::Announcer(QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("announcer"));
+    prepare();
     hide();
 }
 
 void Announcer::say(const QString& text)
 {
-    if (text.isEmpty() || !QAccessible::isActive())
-        return;
-    QAccessibleAnnouncementEvent event(window(), text);
-    QAccessible::updateAccessibility(&event);
+    if (!text.isEmpty() && QAccessible::isActive())
+        announce(text, this);
 }
-
-#endif

@@ -42,7 +42,7 @@ Appearance::Appearance()
         m_ownPalette = Palettes::light();
         QApplication::setPalette(m_ownPalette);
     }
-    announce();
+    applyAnswers();
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
@@ -111,10 +111,10 @@ void Appearance::take(const QString& group, const QString& key, QVariant value)
     } else if (group == gnomeAccessibility && key == highContrast) {
         m_isContrastHighByOldKey = value.toBool();
     }
-    announce();
+    applyAnswers();
 }
 
-void Appearance::announce()
+void Appearance::applyAnswers()
 {
     const bool isStyleStill =
         QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;

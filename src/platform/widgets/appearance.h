@@ -42,7 +42,8 @@ private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void take(const QString& group, const QString& key, QVariant value);
     void applyScheme();
     static void applyContrast();
-    void announce();
+    /// Takes over what contrast and motion come to by all answers so far.
+    void applyAnswers();
 
     QPalette m_ownPalette;
     unsigned m_scheme = 0;   ///< 0 no wish, 1 dark, 2 light

@@ -10,6 +10,7 @@ class QEvent;
 /// comes as a key only if nobody takes it.
 [[nodiscard]] bool isKeyPress(const QEvent& event);
 
+/// Whether a mouse button was pressed, also as the second half of a double click.
 [[nodiscard]] bool isMousePress(const QEvent& event);
 
 /// Whether a key is held down, or a press is the second of a double click. The

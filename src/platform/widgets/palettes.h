@@ -8,6 +8,7 @@
 /// in force calls for.
 namespace Palettes {
 
+/// A palette of our own; Fusion has no dark one.
 [[nodiscard]] QPalette dark();
 
 /// Fusion's own light palette, but with disabled and placeholder texts dark

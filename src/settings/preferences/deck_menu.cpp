@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/preferences/deck_menu.h"
 
+#include "platform/widgets/whole_text.h"
+
 #include <QHelpEvent>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
-#include <QToolTip>
 
 bool DeckMenu::event(QEvent* event)
 {
@@ -13,13 +14,7 @@ bool DeckMenu::event(QEvent* event)
         return QComboBox::event(event);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    // Rich text is asked for, so that an album "<b>" is not taken for it.
-    if (shownTitle(option) != currentText())
-        QToolTip::showText(
-            static_cast<QHelpEvent*>(event)->globalPos(),
-            QStringLiteral("<p>") + currentText().toHtmlEscaped() + QStringLiteral("</p>"), this);
-    else
-        QToolTip::hideText();
+    tellWholeText(*static_cast<QHelpEvent*>(event), this, shownTitle(option), currentText());
     return true;
 }
 

@@ -7,10 +7,11 @@
 #include "platform/localized_text.h"
 #include "platform/platform.h"
 #include "platform/widgets/logo.h"
+#include "ui/card_faces.h"
+#include "ui/card_texts.h"
 #include "ui/colours.h"
 
 #include <QAccessibleWidget>
-#include <QLinearGradient>
 #include <QPainter>
 
 namespace {
@@ -43,11 +44,7 @@ QPixmap makeTile(qreal pixelRatio, Paint paint)
 
 QPixmap pictureTile(const QImage& picture, qreal pixelRatio)
 {
-    const QSize pixels = QSize(tileEdge, tileEdge) * pixelRatio;
-    QImage scaled =
-        picture.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    scaled = scaled.copy((scaled.width() - pixels.width()) / 2,
-                         (scaled.height() - pixels.height()) / 2, pixels.width(), pixels.height());
+    QImage scaled = CardFaces::filling(picture, QSize(tileEdge, tileEdge) * pixelRatio);
     scaled.setDevicePixelRatio(pixelRatio);
     return makeTile(pixelRatio, [&](QPainter& painter, const QRectF& tile) {
         // Filling with a brush cuts the corners smoothly; a clip would not.
@@ -59,10 +56,7 @@ QPixmap pictureTile(const QImage& picture, qreal pixelRatio)
 QPixmap backTile(qreal pixelRatio)
 {
     return makeTile(pixelRatio, [&](QPainter& painter, const QRectF& tile) {
-        QLinearGradient back(tile.topLeft(), tile.bottomRight());
-        back.setColorAt(0, Colours::cardBackLight);
-        back.setColorAt(1, Colours::cardBackDark);
-        painter.setBrush(back);
+        painter.setBrush(Colours::cardBack(tile));
         painter.drawRoundedRect(tile, cornerRadius, cornerRadius);
         const QPixmap logo = logoPixmap(0.35 * tileEdge, pixelRatio);
         const QSizeF size = logo.deviceIndependentSize();
@@ -71,14 +65,6 @@ QPixmap backTile(qreal pixelRatio)
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(innerLine(tile), innerRadius, innerRadius);
     });
-}
-
-/// What a screen reader calls the picture; its file's name if it has no text.
-QString pictureName(const CardPicture& picture)
-{
-    const QString key = QStringLiteral("card_") + picture.name;
-    const QString name = localizedText(key);
-    return name == key ? picture.name : name;
 }
 
 /// To a screen reader the strip is one picture; it skips plain widgets.
@@ -122,7 +108,7 @@ void DeckPreview::load()
     QStringList names;
     for (const CardPicture& picture : pictures) {
         m_tiles.push_back(pictureTile(picture.image, m_tilesRatio));
-        names << pictureName(picture);
+        names << pictureName(picture.name);
     }
     m_tiles.resize(tileCount, backTile(m_tilesRatio));
     setAccessibleName(

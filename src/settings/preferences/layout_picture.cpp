@@ -6,7 +6,6 @@
 #include "ui/colours.h"
 
 #include <QEvent>
-#include <QLinearGradient>
 #include <QPainter>
 
 namespace {
@@ -52,10 +51,8 @@ void LayoutPicture::changeEvent(QEvent* event)
 void LayoutPicture::paintEvent(QPaintEvent*)
 {
     const CardLayout& layout = cardLayout(m_amountCards);
-    QLinearGradient back(rect().topLeft(), rect().bottomRight());
-    back.setColorAt(0, Colours::cardBackLight);
-    back.setColorAt(1, Colours::cardBackDark);
-    const QColor free =
+    const QBrush back = Colours::cardBack(rect());
+    const QBrush free =
         Colours::withOpacity(palette().color(QPalette::Active, QPalette::WindowText),
                              Colours::isDark(palette()) ? 0.12 : 0.10);
 
@@ -66,7 +63,7 @@ void LayoutPicture::paintEvent(QPaintEvent*)
         for (int column = 0; column < mostColumns; ++column) {
             const bool isUsed = row < layout.rows && column < layout.columns;
             painter.setOpacity(isUsed && !isEnabled() ? 0.45 : 1);
-            painter.setBrush(isUsed ? QBrush(back) : QBrush(free));
+            painter.setBrush(isUsed ? back : free);
             painter.drawRoundedRect(column * (placeEdge + gap), row * (placeEdge + gap), placeEdge,
                                     placeEdge, cornerRadius, cornerRadius);
         }

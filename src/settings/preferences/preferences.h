@@ -39,6 +39,7 @@ public:
     /// What an album's title follows in the deck menu.
     [[nodiscard]] static const QString& albumPrefix();
 
+    // Those of its controls that the settings of a game are made by.
     [[nodiscard]] QLabel* rounds_label() const;
     [[nodiscard]] QLabel* cards_label() const;
     [[nodiscard]] QSpinBox* roundsStepper() const;
@@ -70,6 +71,7 @@ public:
     /// equal ones are kept. Never asks for access: without it there are none.
     /// `areAll` is set to whether all could be listed.
     [[nodiscard]] QStringList fetchAvailablePhotoAlbums(bool* areAll = nullptr) const;
+    /// Says `count` rounds beside their stepper, in the language's form for it.
     void updateRoundsLabel(std::int64_t count);
     /// The name of the layout `index`; the number itself if there is no such one.
     [[nodiscard]] static QString cardLayoutLabel(std::int64_t index);

@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "platform/trim.h"
 #include "platform/user_defaults.h"
+#include "platform/widgets/whole_text.h"
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
 
@@ -54,9 +55,7 @@ void Preferences::rebuildCardDeckMenu()
     menu.addItems(decks);
     // A title may be longer than the menu is wide.
     for (int item = int(baseCardDecks().size()); item < menu.count(); ++item)
-        menu.setItemData(
-            item, QStringLiteral("<p>") + decks[item].toHtmlEscaped() + QStringLiteral("</p>"),
-            Qt::ToolTipRole);
+        menu.setItemData(item, toolTipText(decks[item]), Qt::ToolTipRole);
     qsizetype selected = decks.indexOf(current);
     if (selected < 0) {
         selected = 0;
