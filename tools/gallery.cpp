@@ -152,7 +152,7 @@ private:
         keep(*shown, u"leaving-"_s + decks[deck]);
         m_camera.wait(0.35);
         keep(*shown, u"fading-"_s + decks[deck]);
-        m_camera.wait(0.2 + 0.25 * double(deck));
+        m_camera.wait(0.24 + 0.25 * double(deck)); // the board has faded
         keep(*shown, u"celebration-"_s + decks[deck]);
         m_camera.wait(2);
         keep(*shown, u"result-"_s + decks[deck]);
