@@ -4,6 +4,7 @@
 #include "ui/elided_label.h"
 
 #include <QTest>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +19,11 @@ private Q_SLOTS:
         QTest::newRow("one long name") << QStringList{longName};
         QTest::newRow("long and short") << QStringList{longName, u"Ann"_s};
         QTest::newRow("two long ones") << QStringList{longName, longName};
+        QTest::newRow("two that differ at the end")
+            << QStringList{longName + u" 1\U0001F98A"_s, longName + u" 2\U0001F98B"_s};
+        QTest::newRow("two that differ in the middle")
+            << QStringList{longName + u'a' + longName, longName + u'b' + longName};
+        QTest::newRow("one begins with the other") << QStringList{longName, longName + u"X"_s};
         QTest::newRow("digits like the rest") << QStringList{u"1. "_s.repeated(100)};
         QTest::newRow("from right to left") << QStringList{u"\u05D0\u05D1\u05D2"_s};
         QTest::newRow("long, from right to left") << QStringList{u"\u05D0"_s.repeated(200)};
@@ -51,6 +57,43 @@ private Q_SLOTS:
         QCOMPARE(shown.copy(rank), plain.copy(rank));
         QCOMPARE(shown.copy(end - timeWidth, 0, timeWidth, 20),
                  plain.copy(lastInk(plain) + 1 - timeWidth, 0, timeWidth, 20));
+    }
+
+    void fitsByTighterLettersBeforeItIsCut_data()
+    {
+        QTest::addColumn<int>("tightest");
+        QTest::addColumn<double>("room");
+        QTest::addColumn<bool>("isWhole");
+        QTest::newRow("as wide as the line") << 100 << 1.0 << true;
+        QTest::newRow("a little less, not to be tightened") << 100 << 0.95 << false;
+        QTest::newRow("a little less") << 93 << 0.95 << true;
+        QTest::newRow("too little") << 93 << 0.9 << false;
+    }
+
+    void fitsByTighterLettersBeforeItIsCut()
+    {
+        QFETCH(int, tightest);
+        QFETCH(double, room);
+        QFETCH(bool, isWhole);
+        ElidedLabel label(u"line"_s, nullptr);
+        QFont font = label.font();
+        font.setPixelSize(16);
+        label.setFont(font);
+        const QStringList names{u"Spieler N"_s, u"Spieler M"_s};
+        label.setText(names.join(u" vs "_s), names);
+        label.setTightest(tightest);
+        label.resize(label.sizeHint().width(), 20);
+        const int wholeEnd = lastInk(picture(label));
+        label.resize(int(std::ceil(label.sizeHint().width() * room)), 20);
+
+        QCOMPARE(!label.shownText().contains(u'\u2026'), isWhole);
+        for (const QString& end : {u"N\u2069"_s, u"M\u2069"_s}) // which tell the two apart
+            QVERIFY(label.shownText().contains(end));
+        const int end = lastInk(picture(label));
+        QCOMPARE(end < wholeEnd, room < 1);
+        QImage ground(1, 20, QImage::Format_RGB32); // and not a cut M
+        ground.fill(label.palette().color(QPalette::Window));
+        QCOMPARE(picture(label).copy(label.width() - 1, 0, 1, 20), ground);
     }
 
 private:

@@ -2,43 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writes pictures of every screen that a player can meet, taken of the real
 // window: gallery FOLDER LANGUAGE light|dark. See tools/gallery.
-#include "gallery_camera.h"
-#include "gallery_play.h"
-#include "platform/localized_text.h"
-#include "platform/widgets/access_question.h"
+#include "gallery_dialogs.h"
+#include "gallery_stage.h"
 #include "platform/widgets/palettes.h"
-#include "settings/preferences/preferences.h"
-#include "settings/settings_keys.h"
-#include "support/game_window.h"
 
-#include <QAbstractItemView>
 #include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QIcon>
 #include <QLibraryInfo>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPainter>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QStringList decks{u"Kids"_s, u"Cyberpunk"_s, u"70s"_s, u"80s"_s};
-const QStringList shortNames{u"Anna"_s, u"Mia"_s, u"Jonas"_s, u"Lena"_s, u"Ben"_s};
 const QStringList longNames{u"Maximilian-Alexander"_s, u"Ann & <b>Bob</b>"_s,
                             u"Wilhelmina von Hohenlohe"_s, u"WWWWWWWWWWWWWWWWWWWW"_s, u"%1"_s};
 
-class Gallery {
+class Gallery : public GalleryStage {
 public:
-    Gallery(const QString& folder, QString language)
-        : m_camera(folder)
-        , m_language(std::move(language))
-    {
-    }
+    using GalleryStage::GalleryStage;
 
     void paintAll()
     {
@@ -55,105 +37,10 @@ public:
             ending(deck);
         for (const bool isSmall : {false, true})
             otherSize(isSmall);
-        menus();
-        messages();
-        preferences();
-        photos();
         deckSheets();
     }
 
 private:
-    using Prepare = std::function<void(TestPlatform&)>;
-    using Window = std::unique_ptr<GameWindow>;
-
-    Window window(
-        const QString& deck, int layout, const QStringList& players = shortNames,
-        const Prepare& prepare = [](TestPlatform&) {})
-    {
-        auto shown = std::make_unique<GameWindow>(
-            [&](TestPlatform& platform) {
-                platform.useBuiltResources();
-                platform.defaults->setString(SettingsKeys::CardDeck, deck);
-                platform.defaults->setInteger(SettingsKeys::AmountCards, layout);
-                platform.defaults->setInteger(SettingsKeys::AmountRounds, 3);
-                prepare(platform);
-                const auto rounds = platform.defaults->integer(SettingsKeys::AmountRounds);
-                platform.writeHighscoreFile(results(players, layout, rounds));
-            },
-            m_language);
-        QTest::qWait(60); // the fan reads its pictures
-        m_camera.wait(2);
-        return shown;
-    }
-
-    static QByteArray results(const QStringList& players, int layout, qint64 rounds)
-    {
-        QByteArrayList records;
-        for (int i = 0; i < 2 * players.size(); ++i) {
-            const int player = i / 2;
-            records << fillFormat(uR"({"id": "%1", "gameMode": "%2", "playerName": "%3",
-                                       "secondPlayerName": "%4", "elapsedSeconds": %5,
-                                       "failedAttempts": %6, "firstPlayerScore": %7,
-                                       "secondPlayerScore": 3, "amountCards": %8,
-                                       "amountRounds": %9})",
-                                  {QUuid::createUuid().toString(QUuid::WithoutBraces),
-                                   i % 2 == 1 ? u"versus"_s : u"solo"_s, players[player],
-                                   players[(player + 1) % players.size()], 58 + 9 * i, 4 + i, i,
-                                   layout, rounds})
-                           .toUtf8();
-        }
-        return '[' + records.join(',') + ']';
-    }
-
-    void keep(GameWindow& shown, const QString& name) { m_camera.keep(shown.window(), name); }
-
-    static void startSolo(GameWindow& shown)
-    {
-        shown.type(shortNames.front());
-        shown.press(Qt::Key_Return);
-        QCoreApplication::processEvents();
-    }
-    void nameTwo(GameWindow& shown, const QStringList& names)
-    {
-        shown.click(shown.child<QCheckBox>(u"versusCheckbox"_s));
-        shown.click(shown.child<QLineEdit>(u"playerOneName"_s));
-        shown.type(names.front());
-        shown.click(shown.child<QLineEdit>(u"playerTwoName"_s));
-        shown.type(names.back());
-        m_camera.wait(1);
-    }
-    static void startVersus(GameWindow& shown)
-    {
-        shown.click(shown.child<QPushButton>(u"startVersusButton"_s));
-    }
-
-    /// Finds `pairs`, spread over the board.
-    void findPairs(GameWindow& shown, int pairs)
-    {
-        for (int pair = 0; pair < pairs; ++pair) {
-            const std::size_t first = hiddenFrom(shown.game(), std::size_t(pair) * 7 + 1);
-            shown.clickCard(first);
-            m_camera.wait(1);
-            shown.clickCard(otherCard(shown.game(), first, true));
-        }
-    }
-    static void missPair(GameWindow& shown)
-    {
-        const std::size_t first = hiddenFrom(shown.game(), shown.game().cards().size() / 2);
-        shown.clickCard(first);
-        shown.clickCard(otherCard(shown.game(), first, false));
-    }
-
-    void missAndThink(GameWindow& shown, int seconds)
-    {
-        missPair(shown);
-        m_camera.wait(1);
-        const ClockHand hand(seconds);
-        if (!QTest::qWaitFor([&shown] { return !shown.game().isCheckingPair(); }, 3000))
-            qFatal("the cards do not turn back");
-        m_camera.wait(1);
-    }
-
     void firstStart()
     {
         const Window shown = window(u"Cyberpunk"_s, 1, {});
@@ -265,7 +152,7 @@ private:
         keep(*shown, u"leaving-"_s + decks[deck]);
         m_camera.wait(0.35);
         keep(*shown, u"fading-"_s + decks[deck]);
-        m_camera.wait(0.2 + 0.25 * double(deck));
+        m_camera.wait(0.24 + 0.25 * double(deck)); // the board has faded
         keep(*shown, u"celebration-"_s + decks[deck]);
         m_camera.wait(2);
         keep(*shown, u"result-"_s + decks[deck]);
@@ -288,110 +175,6 @@ private:
         keep(*shown, kind + u"board"_s);
     }
 
-    void menus()
-    {
-        const Window shown = window(u"Kids"_s, 1);
-        for (auto* const menu : shown->window().menuBar()->findChildren<QMenu*>()) {
-            menu->popup(shown->window().pos());
-            m_camera.keep(*menu, menu->objectName());
-            menu->close();
-        }
-    }
-
-    void messages()
-    {
-        const Window shown = window(u"Unknown"_s, 1);
-        const auto photograph = [this](const QString& name, const auto& show) {
-            whenAlerted([this, name](QMessageBox& box) { m_camera.keep(box, name); });
-            show();
-        };
-        photograph(u"message-too-few"_s, [&] { startSolo(*shown); });
-        for (const QString& item : {u"menu_keyboard"_s, u"menu_about"_s})
-            photograph(item, [&] { shown->child<QAction>(item).trigger(); });
-        for (const QByteArray key :
-             {"iphoto_access_denied", "iphoto_album_not_found", "iphoto_no_images_found"}) {
-            photograph(QString::fromLatin1(key), [&] {
-                platform().alerts.warn(localizedText(key.constData()),
-                                       localizedText((key + "_info").constData()),
-                                       localizedText("ok"));
-            });
-        }
-        photograph(u"message-running"_s,
-                   [] { showInformation(u"Paircade"_s, localizedText("already_running")); });
-        // A folder stands where the page of the results would.
-        QDir().mkpath(QFileInfo(shown->platform.highscoreFile()).path() + u"/highscores.html"_s);
-        photograph(u"message-page"_s,
-                   [&] { shown->click(shown->child<QPushButton>(u"reportButton"_s)); });
-    }
-
-    void preferences()
-    {
-        using enum PhotoAuthorization;
-        preferencePane(u"open"_s, u"Kids"_s, restricted);
-        preferencePane(u"locked"_s, u"80s"_s, denied);
-        preferencePane(u"not-asked"_s, u"iPhoto"_s, notDetermined);
-        preferencePane(u"album"_s, u"iPhoto: Holidays in Norway"_s, authorized);
-        preferencePane(u"limited"_s, u"iPhoto"_s, limited);
-    }
-
-    void preferencePane(const QString& name, const QString& deck, PhotoAuthorization status)
-    {
-        const Window shown = window(deck, 4, shortNames, [status](TestPlatform& platform) {
-            platform.photos.status = status;
-            platform.photos.content.list = {{u"Holidays in Norway"_s, 40}, {u"Grandmother"_s, 12}};
-            platform.photos.folder = u"The pictures of our long way to the north"_s;
-        });
-        if (name == u"locked")
-            startSolo(*shown);
-        shown->child<QAction>(u"menu_preferences"_s).trigger();
-        QTest::qWait(60);
-        auto& pane = shown->child<Preferences>(QString());
-        m_camera.keep(pane, u"preferences-"_s + name);
-        if (name == u"album") {
-            pane.cardDeck_dropdown()->showPopup();
-            m_camera.keep(*pane.cardDeck_dropdown()->view()->window(), u"preferences-decks"_s);
-            pane.cardDeck_dropdown()->hidePopup();
-        }
-    }
-
-    /// An album of 24 landscapes, each with a sky, a hill and a sun of its own.
-    static void paintPhotos(const TestPlatform& platform)
-    {
-        const QString album = platform.home.filePath(u"Pictures/Hills"_s);
-        QDir().mkpath(album);
-        for (int i = 0; i < 24; ++i) {
-            QImage photo(640, 480, QImage::Format_RGB32);
-            photo.fill(QColor::fromHsv(i * 15, 110, 235));
-            QPainter painter(&photo);
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(QColor::fromHsv((i * 15 + 40) % 360, 60, 255));
-            painter.drawEllipse(120 + 35 * (i % 10), 60 + 15 * (i % 7), 90, 90);
-            painter.setBrush(QColor::fromHsv((i * 15 + 180) % 360, 150, 130));
-            painter.drawEllipse(-300 + 60 * (i % 8), 280, 900, 600);
-            photo.save(album + u"/%1.jpg"_s.arg(i));
-        }
-    }
-
-    void photos()
-    {
-        const Window shown = window(u"iPhoto"_s, 4, shortNames, [](TestPlatform& platform) {
-            paintPhotos(platform);
-            platform.photos.status.reset();
-            platform.photoAccess.write({PhotoAuthorization::authorized});
-        });
-        QTimer::singleShot(100, qApp, [this, &shown] {
-            QWidget* const question = QApplication::activeModalWidget();
-            m_camera.keep(*question, u"question"_s);
-            keep(*shown, u"under-the-question"_s);
-            question->close();
-        });
-        (void)AccessQuestion(shown->resources()).askForPhotoAccess();
-        startSolo(*shown);
-        findPairs(*shown, 4);
-        m_camera.wait(1);
-        keep(*shown, u"board-photos"_s);
-    }
-
     void deckSheets()
     {
         for (const QString& deck : decks) {
@@ -400,9 +183,6 @@ private:
             m_camera.keepDeck(deck, 115, 115, u"deck-turning-"_s + deck);
         }
     }
-
-    Camera m_camera;
-    QString m_language;
 };
 
 } // namespace
@@ -420,6 +200,8 @@ int main(int argc, char* argv[])
     if (controls.load(QLocale(language), u"qtbase"_s, u"_"_s,
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&controls);
-    Gallery(QString::fromLocal8Bit(argv[1]), language).paintAll();
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    Gallery(folder, language).paintAll();
+    paintDialogs(folder, language);
     return 0;
 }

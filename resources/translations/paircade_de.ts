@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Dieses Deck hat zu wenige Bilder. Benötigt: %1 (Runde %2). Wähle in den Einstellungen ein anderes Deck oder ein kleineres Kartenlayout.</translation></message>
+    <source></source><translation>Dieses Deck hat zu wenige Bilder. Benötigt: %1 (Runde %2). Wähle in den Einstellungen ein anderes Deck oder ein kleineres Kartenlayout.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>Für eine Runde stehen zu wenige Fotos zur Verfügung. Benötigt: %1. Füge weitere Fotos hinzu oder wähle in den Einstellungen ein anderes Deck oder ein kleineres Kartenlayout.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
@@ -206,7 +206,7 @@ Pos1, Ende: erste und letzte Karte der Reihe
 Strg+Pos1, Strg+Ende: erste und letzte Karte des Spielfelds
 Leertaste, Eingabetaste: Karte umdrehen
 Alt und unterstrichener Buchstabe: dieses Bedienelement oder Menü
-F1: Zeit und Spielstand vom Bildschirmleser ansagen lassen
+F1: Zeit und Spielstand vom Screenreader ansagen lassen
 Strg+N: neues Spiel
 F11: Vollbild
 Strg+Komma: Einstellungen

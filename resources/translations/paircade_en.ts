@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>This deck has too few pictures. Needed: %1 (round %2). Choose another deck or a smaller card layout in the preferences.</translation></message>
+    <source></source><translation>This deck has too few pictures. Needed: %1 (round %2). Choose another deck or a smaller card layout in the preferences.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>There are too few photos for a round. Needed: %1. Add more photos, or choose another deck or a smaller card layout in the preferences.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>

@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>Aceptar</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Esta baraja tiene muy pocas imágenes. Se necesitan %1 (ronda %2). Elige otra baraja o un tablero más pequeño en las preferencias.</translation></message>
+    <source></source><translation>Esta baraja tiene muy pocas imágenes. Se necesitan %1 (ronda %2). Elige otra baraja o un tablero más pequeño en las preferencias.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>Hay muy pocas fotos para una ronda. Se necesitan %1. Añade más fotos, o elige otra baraja o un tablero más pequeño en las preferencias.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
@@ -415,6 +415,6 @@ Imágenes y sonidos: CC-BY-SA-4.0</translation></message>
   <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
     <source></source><translation>Da la vuelta a dos cartas cada vez, recuerda dónde está cada imagen y encuentra las parejas: a solas contra el reloj o dos personas por turnos.</translation></message>
   <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
-    <source></source><translation>Hay cuatro barajas de dibujos, seis tableros de 4 × 3 a 8 × 5 y tantas rondas como quieras. Tus propias fotos también pueden ser una baraja; nunca salen del ordenador. Los mejores resultados aparecen junto al tablero. Se puede jugar por completo con el ratón, con el teclado o con un lector de pantalla.</translation></message>
+    <source></source><translation>Hay cuatro barajas de dibujos, seis tableros de 4 × 3 a 8 × 5 y tantas rondas como quieras. Tus propias fotos también pueden ser una baraja; nunca salen del equipo. Los mejores resultados aparecen junto al tablero. Se puede jugar por completo con el ratón, con el teclado o con un lector de pantalla.</translation></message>
 </context>
 </TS>

@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Ce jeu de cartes n’a pas assez d’images. Il en faut %1 (manche %2). Choisissez un autre jeu de cartes ou une disposition plus petite dans les préférences.</translation></message>
+    <source></source><translation>Ce jeu de cartes n’a pas assez d’images. Il en faut %1 (manche %2). Choisissez un autre jeu de cartes ou une disposition plus petite dans les préférences.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>Il n’y a pas assez de photos pour une manche. Il en faut %1. Ajoutez des photos, ou choisissez un autre jeu de cartes ou une disposition plus petite dans les préférences.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>

@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Questo mazzo ha troppe poche immagini. Ne servono %1 (manche %2). Scegli un altro mazzo o una griglia più piccola nelle preferenze.</translation></message>
+    <source></source><translation>Questo mazzo ha troppe poche immagini. Ne servono %1 (manche %2). Scegli un altro mazzo o una griglia più piccola nelle preferenze.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>Ci sono troppe poche foto per una manche. Ne servono %1. Aggiungi altre foto, oppure scegli un altro mazzo o una griglia più piccola nelle preferenze.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
@@ -415,6 +415,6 @@ Immagini e suoni: CC-BY-SA-4.0</translation></message>
   <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
     <source></source><translation>Gira due carte alla volta, ricorda dove si trovano le immagini e trova le coppie: in solitario contro il tempo o in due a turno.</translation></message>
   <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
-    <source></source><translation>Ci sono quattro mazzi di immagini disegnate, sei tabelloni da 4 × 3 a 8 × 5 e tutte le manche che vuoi. Anche le tue foto possono diventare un mazzo; non lasciano mai il computer. I risultati migliori sono accanto al tabellone. Si può giocare interamente con il mouse, con la tastiera o con un lettore di schermo.</translation></message>
+    <source></source><translation>Ci sono quattro mazzi di immagini disegnate, sei griglie da 4 × 3 a 8 × 5 e tutte le manche che vuoi. Anche le tue foto possono diventare un mazzo; non lasciano mai il computer. I risultati migliori sono accanto al tavolo. Si può giocare interamente con il mouse, con la tastiera o con uno screen reader.</translation></message>
 </context>
 </TS>

@@ -280,7 +280,7 @@ Ctrl+Q：終了</translation></message>
   <message id="status_pairs_left"><extracomment>%1: number of pairs still to find, from 1.</extracomment>
     <source></source><translation>残りペア：%1</translation></message>
   <message id="status_no_game"><extracomment>Said in place of the score.</extracomment>
-    <source></source><translation>ゲームは始まっていません。</translation></message>
+    <source></source><translation>ゲーム中ではありません。</translation></message>
 
   <!-- Pictures of the Cyberpunk deck -->
   <message id="card_can"><extracomment>Picture, Cyberpunk.</extracomment><source></source><translation>缶ジュース</translation></message>
@@ -415,6 +415,6 @@ Ctrl+Q：終了</translation></message>
   <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
     <source></source><translation>カードを2枚ずつめくり、絵の場所を覚えて、ペアをそろえましょう。1人でタイムに挑戦することも、2人で交代で遊ぶこともできます。</translation></message>
   <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
-    <source></source><translation>絵のデッキは4種類、ボードは4 × 3から8 × 5までの6種類、ラウンド数は自由です。自分の写真もデッキになります。写真がコンピューターの外に出ることはありません。最高記録はボードの横に表示されます。マウスだけでも、キーボードだけでも、スクリーンリーダーでも遊べます。</translation></message>
+    <source></source><translation>絵のデッキは4種類、カードの配置は4 × 3から8 × 5までの6種類、ラウンド数は自由です。自分の写真もデッキになります。写真がコンピューターの外に出ることはありません。最高記録はカードの横に表示されます。マウスだけでも、キーボードだけでも、スクリーンリーダーでも遊べます。</translation></message>
 </context>
 </TS>

@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Ta talia ma za mało obrazków. Potrzeba: %1 (runda %2). Wybierz w preferencjach inną talię albo mniejszą planszę.</translation></message>
+    <source></source><translation>Ta talia ma za mało obrazków. Potrzeba: %1 (runda %2). Wybierz w preferencjach inną talię albo mniejszą planszę.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>Jest za mało zdjęć na rundę. Potrzeba: %1. Dodaj zdjęcia albo wybierz w preferencjach inną talię lub mniejszą planszę.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>

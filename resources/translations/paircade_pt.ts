@@ -22,7 +22,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="start_game"><extracomment>Button of the one-player form.</extracomment>
     <source></source><translation>Jogar</translation></message>
   <message id="start_versus_game"><extracomment>Button of the two-player form.</extracomment>
-    <source></source><translation>Jogar duelo</translation></message>
+    <source></source><translation>Iniciar duelo</translation></message>
   <message id="end_game"><extracomment>Sidebar button while a game runs.</extracomment>
     <source></source><translation>Encerrar jogo</translation></message>
   <message id="versus_mode"><extracomment>Sidebar check box that switches to two players; also the heading above the versus highscores.</extracomment>
@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Este baralho não tem imagens suficientes. São necessárias %1 (rodada %2). Escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
+    <source></source><translation>Este baralho não tem imagens suficientes. São necessárias %1 (rodada %2). Escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>Não há fotos suficientes para uma rodada. São necessárias %1. Adicione mais fotos, ou escolha outro baralho ou um tabuleiro menor nas preferências.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
@@ -118,7 +118,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_photos"><extracomment>Caption before what the game may see of the player’s photos; quoted in iphoto_access_denied_info.</extracomment>
     <source></source><translation>Fotos:</translation></message>
   <message id="preferences_photos_not_asked"><extracomment>After the caption: the player was not yet asked for the photos.</extracomment>
-    <source></source><translation>Ainda não perguntado</translation></message>
+    <source></source><translation>Ainda não definido</translation></message>
   <message id="preferences_photos_all"><extracomment>After the caption: the game may use all pictures.</extracomment>
     <source></source><translation>Todas as imagens</translation></message>
   <message id="preferences_photos_only"><extracomment>After the caption: the game may use the pictures of one folder. %1: the folder’s name.</extracomment>
@@ -227,7 +227,7 @@ Imagens e sons: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_open_highscores_html"><extracomment>Letter underlined in open_highscores_html.</extracomment><source></source><translation>R</translation></message>
   <message id="mnemonic_versus_mode"><extracomment>Letter underlined in versus_mode.</extracomment><source></source><translation>M</translation></message>
   <message id="mnemonic_start_game"><extracomment>Letter underlined in start_game.</extracomment><source></source><translation>g</translation></message>
-  <message id="mnemonic_start_versus_game"><extracomment>Letter underlined in start_versus_game.</extracomment><source></source><translation>g</translation></message>
+  <message id="mnemonic_start_versus_game"><extracomment>Letter underlined in start_versus_game.</extracomment><source></source><translation>I</translation></message>
   <message id="mnemonic_end_game"><extracomment>Letter underlined in end_game.</extracomment><source></source><translation>E</translation></message>
   <message id="mnemonic_menu_new_game"><extracomment>Letter underlined in menu_new_game.</extracomment><source></source><translation>N</translation></message>
   <message id="mnemonic_menu_end_game"><extracomment>Letter underlined in menu_end_game.</extracomment><source></source><translation>E</translation></message>

@@ -64,11 +64,11 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>OK</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>Den här kortleken har för få bilder. Det behövs %1 (omgång %2). Välj en annan kortlek eller ett mindre bräde i inställningarna.</translation></message>
+    <source></source><translation>Den här kortleken har för få bilder. Det behövs %1 (omgång %2). Välj en annan kortlek eller en mindre spelplan i inställningarna.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
-    <source></source><translation>Det finns för få foton för en omgång. Det behövs %1. Lägg till fler foton, eller välj en annan kortlek eller ett mindre bräde i inställningarna.</translation></message>
+    <source></source><translation>Det finns för få foton för en omgång. Det behövs %1. Lägg till fler foton, eller välj en annan kortlek eller en mindre spelplan i inställningarna.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
-    <source></source><translation>Albumet har för få foton för en omgång. Det behövs %1. Lägg fler foton i albumets mapp, eller välj en annan kortlek eller ett mindre bräde i inställningarna.</translation></message>
+    <source></source><translation>Albumet har för få foton för en omgång. Det behövs %1. Lägg fler foton i albumets mapp, eller välj en annan kortlek eller en mindre spelplan i inställningarna.</translation></message>
   <message id="iphoto_access_denied"><extracomment>Message, first line: a photo deck is chosen, but access to the photos is not allowed.</extracomment>
     <source></source><translation>Paircade får inte använda dina foton</translation></message>
   <message id="iphoto_access_denied_info"><extracomment>Message, below iphoto_access_denied. The quoted word is the caption in the preferences.</extracomment>
@@ -102,13 +102,13 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="preferences_rounds"><extracomment>Caption before the number of rounds.</extracomment>
     <source></source><translation>Omgångar:</translation></message>
   <message id="preferences_card_layout"><extracomment>Caption before the number of the card layout.</extracomment>
-    <source></source><translation>Bräde:</translation></message>
+    <source></source><translation>Spelplan:</translation></message>
   <message id="preferences_locked"><extracomment>Why the numbers of rounds and of the layout cannot be changed while a game runs.</extracomment>
     <source></source><translation>Kan ändras när spelet är slut.</translation></message>
   <message id="preferences_found_pairs"><extracomment>Caption before preferences_remove_match.</extracomment>
     <source></source><translation>Hittade par:</translation></message>
   <message id="preferences_remove_match"><extracomment>Check box: found pairs leave the board.</extracomment>
-    <source></source><translation>Ta bort dem från brädet</translation></message>
+    <source></source><translation>Ta bort dem från spelplanen</translation></message>
   <message id="preferences_deck"><extracomment>Caption before the menu of the decks.</extracomment>
     <source></source><translation>Kortlek:</translation></message>
   <message id="preferences_preview"><extracomment>For screen readers: the first pictures of the chosen deck. %1: their names, with commas between.</extracomment>
@@ -150,7 +150,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
     <source></source><translation>Paircades topplista</translation></message>
   <message id="highscores_html_subtitle"><extracomment>Below the heading. %1: internal number, left out on purpose; %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
-    <source></source><translation>Alla sparade resultat. Nuvarande inställningar: bräde %2 av 6, omgångar: %3.</translation></message>
+    <source></source><translation>Alla sparade resultat. Nuvarande inställningar: spelplan %2 av 6, omgångar: %3.</translation></message>
   <message id="highscores_html_generated"><extracomment>Below the subtitle. %1: date and time of the page.</extracomment>
     <source></source><translation>Skapad %1</translation></message>
   <message id="highscores_html_player"><extracomment>Column heading: one name, or two with vs between them.</extracomment>
@@ -201,9 +201,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Om Paircade</translation></message>
   <message id="keyboard_help"><extracomment>Help text, one line a key.</extracomment>
     <source></source><translation>Tabb: gå mellan kontrollerna
-Piltangenter: flytta över brädet
+Piltangenter: flytta över spelplanen
 Home, End: första och sista kortet i raden
-Ctrl+Home, Ctrl+End: första och sista kortet på brädet
+Ctrl+Home, Ctrl+End: första och sista kortet på spelplanen
 Blanksteg, Retur: vänd kortet
 Alt och en understruken bokstav: den kontrollen eller menyn
 F1: låta skärmläsaren läsa upp tid och ställning
@@ -240,7 +240,7 @@ Bilder och ljud: CC-BY-SA-4.0</translation></message>
   <message id="mnemonic_menu_keyboard"><extracomment>Letter underlined in menu_keyboard.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_menu_about"><extracomment>Letter underlined in menu_about.</extracomment><source></source><translation>O</translation></message>
   <message id="mnemonic_preferences_rounds"><extracomment>Letter underlined in preferences_rounds.</extracomment><source></source><translation>O</translation></message>
-  <message id="mnemonic_preferences_card_layout"><extracomment>Letter underlined in preferences_card_layout.</extracomment><source></source><translation>B</translation></message>
+  <message id="mnemonic_preferences_card_layout"><extracomment>Letter underlined in preferences_card_layout.</extracomment><source></source><translation>p</translation></message>
   <message id="mnemonic_preferences_remove_match"><extracomment>Letter underlined in preferences_remove_match.</extracomment><source></source><translation>T</translation></message>
   <message id="mnemonic_preferences_deck"><extracomment>Letter underlined in preferences_deck.</extracomment><source></source><translation>K</translation></message>
   <message id="mnemonic_preferences_photos_allow"><extracomment>Letter underlined in preferences_photos_allow.</extracomment><source></source><translation>i</translation></message>

@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>Гаразд</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>У цій колоді замало малюнків. Потрібно: %1 (раунд %2). Виберіть у налаштуваннях іншу колоду або менше поле.</translation></message>
+    <source></source><translation>У цій колоді замало малюнків. Потрібно: %1 (раунд %2). Виберіть у налаштуваннях іншу колоду або менше поле.</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>Замало фотографій для раунду. Потрібно: %1. Додайте фотографії або виберіть у налаштуваннях іншу колоду чи менше поле.</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
@@ -409,11 +409,11 @@ Ctrl+Q: вийти</translation></message>
   <message id="desktop_generic_name"><extracomment>In the desktop’s menu: what kind of program this is.</extracomment>
     <source></source><translation>Гра в пари</translation></message>
   <message id="desktop_comment"><extracomment>In the menu and the software centre: what the program does, without a full stop.</extracomment>
-    <source></source><translation>Перегортайте картки та знаходьте пари самостійно чи вдвох</translation></message>
+    <source></source><translation>Перевертайте картки та знаходьте пари самостійно чи вдвох</translation></message>
   <message id="desktop_keywords"><extracomment>Words that find the program in the menu, each with a semicolon after it.</extracomment>
     <source></source><translation>пари;картки;пам’ять;увага;діти;</translation></message>
   <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
-    <source></source><translation>Перегортайте по дві картки, запам’ятовуйте, де лежать малюнки, і знаходьте пари: самостійно на час або вдвох по черзі.</translation></message>
+    <source></source><translation>Перевертайте по дві картки, запам’ятовуйте, де лежать малюнки, і знаходьте пари: самостійно на час або вдвох по черзі.</translation></message>
   <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
     <source></source><translation>Є чотири колоди з малюнками, шість полів від 4 × 3 до 8 × 5 і стільки раундів, скільки забажаєте. Колодою можуть стати й ваші власні фотографії; вони ніколи не залишають комп’ютер. Найкращі результати видно поруч із полем. У всю гру можна грати мишею, з клавіатури або з програмою читання з екрана.</translation></message>
 </context>

@@ -64,7 +64,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="ok"><extracomment>Button that closes a message.</extracomment>
     <source></source><translation>确定</translation></message>
   <message id="not_enough_images_for_round"><extracomment>Message: a deck of the game has too few pictures. %1: different pictures needed; %2: round that could not be dealt.</extracomment>
-    <source></source><translation>这副牌的图片太少。需要 %1 张（第 %2 轮）。请在首选项中选择别的牌组或更小的布局。</translation></message>
+    <source></source><translation>这个牌组的图片太少。需要 %1 张（第 %2 轮）。请在首选项中选择别的牌组或更小的布局。</translation></message>
   <message id="iphoto_not_enough_images"><extracomment>Message: too few of the player's photos for a round, or no access to them. %1: photos needed.</extracomment>
     <source></source><translation>照片不够一轮使用。需要 %1 张。请添加照片，或在首选项中选择别的牌组或更小的布局。</translation></message>
   <message id="iphoto_not_enough_images_in_album"><extracomment>Message: too few photos in the chosen album, or no access to it. %1: photos needed.</extracomment>
@@ -80,7 +80,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
     <source></source><translation>没有找到照片</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>这副牌取用照片的文件夹是空的。请添加照片，或在首选项中选择别的牌组。</translation></message>
+    <source></source><translation>这个牌组取用照片的文件夹是空的。请添加照片，或在首选项中选择别的牌组。</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>无法保存排行榜网页</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>
@@ -160,7 +160,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="highscores_html_failures"><extracomment>Column heading: failed attempts of one player, or pairs of two players, 3 : 5.</extracomment>
     <source></source><translation>失误／比分</translation></message>
   <message id="highscores_html_cards"><extracomment>Column heading: columns and rows of the board, 4x3.</extracomment>
-    <source></source><translation>牌数</translation></message>
+    <source></source><translation>布局</translation></message>
   <message id="highscores_html_rounds"><extracomment>Column heading: number of rounds.</extracomment>
     <source></source><translation>轮数</translation></message>
   <message id="highscores_html_mode"><extracomment>Column heading: one player or two.</extracomment>
@@ -396,7 +396,7 @@ Ctrl+Q：退出</translation></message>
   <message id="photo_question_none"><extracomment>Button, answer to the question.</extracomment>
     <source></source><translation>不允许</translation></message>
   <message id="photo_question_none_consequence"><extracomment>Beside the button: what that answer gives.</extracomment>
-    <source></source><translation>仅使用游戏自带的四副牌</translation></message>
+    <source></source><translation>仅使用游戏自带的四个牌组</translation></message>
   <message id="photo_question_foot"><extracomment>Last line of the question.</extracomment>
     <source></source><translation>以后可在首选项中更改。</translation></message>
   <message id="photo_question_choose"><extracomment>Title of the dialog in which a folder is chosen.</extracomment>
@@ -415,6 +415,6 @@ Ctrl+Q：退出</translation></message>
   <message id="store_description_play"><extracomment>First paragraph in the software centre.</extracomment>
     <source></source><translation>每次翻开两张牌，记住图片的位置，找出成对的图片：一个人挑战时间，或两个人轮流进行。</translation></message>
   <message id="store_description_more"><extracomment>Second paragraph in the software centre.</extracomment>
-    <source></source><translation>共有四副手绘牌组、从 4 × 3 到 8 × 5 的六种牌面，轮数任选。您自己的照片也可以作为牌组，照片绝不会离开这台电脑。最佳成绩显示在牌面旁边。全程可用鼠标、键盘或屏幕阅读器操作。</translation></message>
+    <source></source><translation>共有四个手绘牌组、从 4 × 3 到 8 × 5 的六种布局，轮数任选。您自己的照片也可以作为牌组，照片绝不会离开这台电脑。最佳成绩显示在牌桌旁边。全程可用鼠标、键盘或屏幕阅读器操作。</translation></message>
 </context>
 </TS>

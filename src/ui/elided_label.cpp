@@ -7,7 +7,9 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QTextBoundaryFinder>
 #include <algorithm>
+#include <map>
 
 namespace {
 
@@ -41,6 +43,43 @@ QString isolated(const QString& name)
     return QChar(u'\u2068') + name + QChar(u'\u2069');
 }
 
+/// Whether different `names` would read the same when cut off at `width`.
+bool lookAlike(const QStringList& names, const QFontMetrics& metrics, int width)
+{
+    std::map<QString, QString> seen; // what is shown, and what it stands for
+    return std::ranges::any_of(names, [&](const QString& name) {
+        const QString shown = metrics.elidedText(name, Qt::ElideRight, width);
+        return seen.try_emplace(shown, name).first->second != name;
+    });
+}
+
+/// How many characters all `names` begin with, up to the blanks before what differs.
+qsizetype commonStart(const QStringList& names)
+{
+    const auto [first, last] = std::ranges::minmax(names);
+    qsizetype end = std::ranges::mismatch(first, last).in1 - first.begin();
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, first);
+    letters.setPosition(end);
+    if (!letters.isAtBoundary())
+        end = letters.toPreviousBoundary();
+    while (end > 0 && first[end - 1].isSpace())
+        --end;
+    return end;
+}
+
+/// `name` in `width`, cut off at its end, or else within the first `alike` characters,
+/// so that what follows them can be read.
+QString shortened(const QString& name, qsizetype alike, const QFontMetrics& metrics, int width)
+{
+    const QString end = name.sliced(alike);
+    const int endWidth = metrics.horizontalAdvance(end);
+    if (alike == 0 || metrics.horizontalAdvance(name) <= width)
+        return metrics.elidedText(name, Qt::ElideRight, width);
+    if (endWidth > width / 2)
+        return metrics.elidedText(name, Qt::ElideMiddle, width);
+    return metrics.elidedText(name.first(alike), Qt::ElideRight, width - endWidth) + end;
+}
+
 } // namespace
 
 ElidedLabel::ElidedLabel(const QString& objectName, QWidget* parent)
@@ -71,6 +110,12 @@ void ElidedLabel::setText(const QString& text, const QStringList& names)
     update();
 }
 
+void ElidedLabel::setTightest(int percent)
+{
+    m_tightest = percent;
+    update();
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
     return {0, fontMetrics().height()};
@@ -87,6 +132,7 @@ bool ElidedLabel::event(QEvent* event)
 void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    painter.setFont(shownFont());
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
                           isEnabled(), shownText(), foregroundRole());
 }
@@ -99,9 +145,21 @@ QString ElidedLabel::wholeText() const
     return line;
 }
 
+QFont ElidedLabel::shownFont() const
+{
+    const QString whole = wholeText();
+    QFont shown = font();
+    for (int percent = 99; percent >= m_tightest; --percent) {
+        if (QFontMetrics(shown).horizontalAdvance(whole) <= contentsRect().width())
+            break;
+        shown.setLetterSpacing(QFont::PercentageSpacing, percent);
+    }
+    return shown;
+}
+
 QString ElidedLabel::shownText() const
 {
-    const QFontMetrics metrics = fontMetrics();
+    const QFontMetrics metrics(shownFont());
     const int width = contentsRect().width();
     const QString whole = wholeText();
     if (metrics.horizontalAdvance(whole) <= width)
@@ -125,10 +183,17 @@ QString ElidedLabel::shownText() const
         room -= std::min(length, share);
     }
 
+    QStringList names;
+    for (const Piece& piece : m_pieces) {
+        if (piece.isName)
+            names << oneLine(piece.text);
+    }
+    const qsizetype alike = lookAlike(names, metrics, share) ? commonStart(names) : 0;
+
     QString line;
     for (const Piece& piece : m_pieces) {
         const QString text = oneLine(piece.text);
-        line += piece.isName ? isolated(metrics.elidedText(text, Qt::ElideRight, share)) : text;
+        line += piece.isName ? isolated(shortened(text, alike, metrics, share)) : text;
     }
     return metrics.elidedText(line, Qt::ElideRight, width);
 }

@@ -28,6 +28,11 @@ public:
     /// megabytes.
     void setText(const QString& text, const QStringList& names = {});
 
+    /// Lets the letters of a line that is too long stand closer, before anything is
+    /// left out: down to `percent` of their distance, from 1 to 100, which is the
+    /// default.
+    void setTightest(int percent);
+
     /// What is drawn in the label's present width.
     [[nodiscard]] QString shownText() const;
 
@@ -45,5 +50,8 @@ private:
 
     /// Every character of the text, as it is drawn where there is room.
     [[nodiscard]] QString wholeText() const;
+    /// The label's font, as tight as the present width asks for.
+    [[nodiscard]] QFont shownFont() const;
     std::vector<Piece> m_pieces{};
+    int m_tightest = 100;
 };

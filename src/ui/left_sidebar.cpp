@@ -29,6 +29,7 @@ constexpr int logoSlot = 130;       ///< The logo is higher, and overlaps the st
 constexpr int lowestStill = 480;    ///< Below this height the whole column scrolls.
 constexpr int leastHighscores = 40; ///< What of the highscores is always seen.
 constexpr int nameWidth = 180;
+constexpr int tightestPairing = 93; ///< Per cent; "Player 1" is a long word in many languages.
 constexpr int buttonWidth = 180;
 constexpr int besideButtonText = 8; ///< Room on each side, beyond the style's own.
 
@@ -60,6 +61,7 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     , m_highscores(game, m_highscoreColumn)
 {
     setObjectName(QStringLiteral("leftSidebar"));
+    m_pairingLine->setTightest(tightestPairing);
     m_highscoreArea->setObjectName(QStringLiteral("highscoreArea"));
     for (QScrollArea* const area : std::initializer_list<QScrollArea*>{this, m_highscoreArea})
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -6,10 +6,12 @@
 #include "platform/widgets/held_input.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
+#include <QStyle>
 
 namespace {
 
@@ -31,6 +33,11 @@ void showBox(QMessageBox& box, const QString& informativeText, const QString& bu
     if (auto* const text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
         text->setMinimumWidth(informativeWidth);
     box.addButton(buttonTitle, QMessageBox::AcceptRole);
+    // Room for the ring around the button that has the focus.
+    if (auto* const buttons = box.findChild<QDialogButtonBox*>()) {
+        const int ring = box.style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+        buttons->setContentsMargins(ring, ring, ring, ring);
+    }
     const HeldInput held; // else the key that led here would close it again
     box.exec();
 }
