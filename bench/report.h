@@ -27,8 +27,8 @@ using Samples = std::vector<double>;
     return percentile(samples, 0.5);
 }
 
-/// Milliseconds of `clock`: CLOCK_MONOTONIC passes for all, CLOCK_THREAD_CPUTIME_ID
-/// only while this thread computes, whatever else the machine is busy with.
+/// Milliseconds of `clock`: CLOCK_MONOTONIC passes for all, CLOCK_PROCESS_CPUTIME_ID
+/// only while this process computes, whatever else the machine is busy with.
 [[nodiscard]] inline double milliseconds(clockid_t clock)
 {
     timespec now{};

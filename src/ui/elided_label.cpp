@@ -10,6 +10,7 @@
 #include <QTextBoundaryFinder>
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace {
 
@@ -91,17 +92,22 @@ ElidedLabel::ElidedLabel(const QString& objectName, QWidget* parent)
 
 void ElidedLabel::setText(const QString& text, const QStringList& names)
 {
-    m_pieces.clear();
+    std::vector<Piece> pieces;
     qsizetype begin = 0;
     for (const QString& name : names) {
         const qsizetype place = name.isEmpty() ? -1 : text.indexOf(name, begin);
         if (place < 0)
             continue;
-        m_pieces.push_back({.text = limited(text.mid(begin, place - begin))});
-        m_pieces.push_back({.text = limited(name), .isName = true});
+        pieces.push_back({.text = limited(text.mid(begin, place - begin))});
+        pieces.push_back({.text = limited(name), .isName = true});
         begin = place + name.size();
     }
-    m_pieces.push_back({.text = limited(text.mid(begin))});
+    pieces.push_back({.text = limited(text.mid(begin))});
+
+    // Every tick of the clock sets all lines anew, and most say what they said.
+    if (pieces == m_pieces)
+        return;
+    m_pieces = std::move(pieces);
 
     QString kept;
     for (const Piece& piece : m_pieces)

@@ -46,6 +46,8 @@ private:
     struct Piece {
         QString text{};
         bool isName = false;
+
+        bool operator==(const Piece&) const = default;
     };
 
     /// Every character of the text, as it is drawn where there is room.

@@ -40,6 +40,16 @@ QPixmap sharedFace(const char* name, qreal edge, qreal devicePixelRatio, Draw dr
     return face;
 }
 
+/// Draws a face into its place. The margin keeps the edge of a turned one smooth:
+/// without antialiasing it looks the same, but is laid in fewer and longer spans.
+void drawFace(QPainter& painter, const QPointF& corner, const QPixmap& face)
+{
+    const bool isTurned = painter.transform().type() == QTransform::TxProject;
+    painter.setRenderHint(QPainter::Antialiasing, !isTurned);
+    painter.drawPixmap(corner, face);
+    painter.setRenderHint(QPainter::Antialiasing);
+}
+
 } // namespace
 
 QTransform turnProjection(const QRectF& place, double degrees)
@@ -152,12 +162,12 @@ void TurningCard::paintBack(QPainter& painter, const QRectF& place, qreal device
     const double press = m_press.value();
     const double hover = m_hover.value() * (1 - press);
     if (hover + press <= 0) {
-        painter.drawPixmap(corner,
-                           sharedFace("back", m_edge, devicePixelRatio, CardFaces::backSide));
+        drawFace(painter, corner,
+                 sharedFace("back", m_edge, devicePixelRatio, CardFaces::backSide));
         return;
     }
-    painter.drawPixmap(corner,
-                       sharedFace("ground", m_edge, devicePixelRatio, CardFaces::backGround));
+    drawFace(painter, corner,
+             sharedFace("ground", m_edge, devicePixelRatio, CardFaces::backGround));
     CardFaces::paintVeil(painter, place, Colours::withOpacity(Qt::white, hoverVeil * hover));
     CardFaces::paintVeil(painter, place, Colours::withOpacity(Qt::black, pressVeil * press));
     CardFaces::paintLogo(painter, place);
@@ -171,6 +181,6 @@ void TurningCard::paintFront(QPainter& painter, const QRectF& place, qreal devic
     if (m_ground.isValid())
         CardFaces::paintGround(painter, place, m_ground);
     const qreal margin = CardFaces::margin(devicePixelRatio);
-    painter.drawPixmap(place.topLeft() - QPointF(margin, margin), m_front);
+    drawFace(painter, place.topLeft() - QPointF(margin, margin), m_front);
     CardFaces::paintFrontOutline(painter, place, found);
 }
