@@ -4,6 +4,7 @@
 // starts one for this test, and a portal of its own answers on it.
 #include "platform/widgets/appearance.h"
 #include "platform/widgets/palettes.h"
+#include "ui/turning_card.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -131,6 +132,8 @@ private Q_SLOTS:
         QCOMPARE(QApplication::palette(), before);
         portal.change(appearance, u"reduced-motion"_s, 1U);
         QTRY_VERIFY(Appearance::isMotionReduced());
+        TurningCard card{MemoryCard()};
+        QVERIFY(card.show({.isFaceUp = true}, false) && !card.isMoving());
         portal.change(appearance, u"reduced-motion"_s, 0U);
         QTRY_VERIFY(!Appearance::isMotionReduced());
         QCOMPARE(changes.size(), 2);

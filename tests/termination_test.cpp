@@ -107,6 +107,9 @@ int leaveBy(const QByteArray& fullWay)
             (void)(std::raise(SIGPIPE) + std::raise(SIGHUP));
         else if (way == "menu")
             delegate.window()->findChild<QAction*>(u"menu_quit"_s)->trigger();
+        else if (way == "keys")
+            QTest::keyClick(QApplication::activeWindow()->windowHandle(), Qt::Key_Q,
+                            Qt::ControlModifier);
         else if (way == "session")
             QCoreApplication::quit();
         else
@@ -145,6 +148,7 @@ private Q_SLOTS:
         QTest::newRow("photo question: SIGTERM") << 1;
         QTest::newRow("photo question, choosing a folder: SIGTERM") << 1;
         QTest::newRow("preferences: close") << 1;
+        QTest::newRow("preferences: keys") << 0;
         QTest::newRow("half a turn: close") << 1;
         QTest::newRow("won board: menu") << 0;
     }
