@@ -19,8 +19,6 @@ inline void writeSettings(const QByteArray& lines)
 /// What stands under `key` in the file, as another program would find it.
 inline QByteArray stored(const QByteArray& key)
 {
-    if (!QFile::exists(settingsFile()))
-        return "no file";
     for (const QByteArray& line : contentsOf(settingsFile()).split('\n')) {
         if (line.startsWith(key + '='))
             return line.mid(key.size() + 1);
