@@ -44,8 +44,12 @@ private Q_SLOTS:
         label.setText(line, names);
         QVERIFY(label.fontMetrics().horizontalAdvance(label.shownText()) <= 220);
         QCOMPARE(label.text(), line.size() < 1000 ? line : label.text());
-        if (names.contains(u"Ann"_s))
+        if (names.contains(u"Ann"_s)) {
             QVERIFY(label.shownText().contains(u"vs \u2068Ann\u2069"_s));
+            // What she does not need is for the other.
+            QVERIFY(label.fontMetrics().horizontalAdvance(label.shownText()) >
+                    220 - 2 * label.fontMetrics().horizontalAdvance(u'W'));
+        }
 
         // Rank and time are drawn as they are around any name, at both ends.
         const QRect rank(0, 0, label.fontMetrics().horizontalAdvance(u"1."_s), 20);

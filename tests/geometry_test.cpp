@@ -306,7 +306,8 @@ private:
             const QRect card = place(m_window->card(std::size_t(i)));
             // Half a point for the grid's corner, half for the card's place in it.
             QVERIFY(qAbs(card.left() - (left + i % columns * (edge + 20))) <= 1);
-            QVERIFY(qAbs(card.top() - (top + i / columns * (edge + 20))) <= 1);
+            const int row = i / columns;
+            QVERIFY(qAbs(card.top() - (top + row * (edge + 20))) <= 1);
             QVERIFY(card.width() == card.height() && qAbs(card.width() - edge) <= 0.5);
         }
     }

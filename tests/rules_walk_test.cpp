@@ -251,7 +251,7 @@ private:
             return false;
         m_oldCards = std::exchange(m_rules.cards, m_game->cards());
         const auto count = std::exchange(m_rules.dealtPairs, 0);
-        const auto newIds = m_knownIds.size() + 3 * count;
+        const auto newIds = m_knownIds.size() + qsizetype{3} * count;
         QMap<std::pair<QUuid, QString>, int> pairs;
         QSet<QString> pictures;
         for (const MemoryCard& card : m_rules.cards) {

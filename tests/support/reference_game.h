@@ -147,7 +147,7 @@ public:
             assign(isGameActive, false, Member::isGameActive);
             posts << 0;
             assign(cards, {}, Member::cards);
-            queue.push_back(u"Paircade|"_s + message + u"|OK"_s);
+            queue.emplace_back(u"Paircade|"_s + message + u"|OK"_s);
             return;
         }
         dealtPairs = pairs;
@@ -248,7 +248,7 @@ public:
     void turnBackFallsDue()
     {
         if (delayed)
-            queue.push_back(*std::exchange(delayed, {}));
+            queue.emplace_back(*std::exchange(delayed, {}));
     }
 
     /// The main loop comes round.
@@ -315,7 +315,7 @@ private:
     void turn(bool& side, bool value) { assign(side, value, Member::cards); }
     void alert(const char* message, const char* information)
     {
-        queue.push_back(localizedText(message) + u'|' + localizedText(information) + u"|OK"_s);
+        queue.emplace_back(localizedText(message) + u'|' + localizedText(information) + u"|OK"_s);
     }
     void clearAttempt()
     {
