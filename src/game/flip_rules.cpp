@@ -57,7 +57,7 @@ void MemoryGame::settlePair(std::size_t first, std::size_t second)
 void MemoryGame::settleMiss(std::size_t first, std::size_t second)
 {
     m_failedAttempts = failedAttempts() + 1;
-    // The attempt stays open until then, so every tap in between is ignored.
+    // Until they turn back the attempt stays open, so every tap is ignored.
     m_pendingTurnBack = platform().mainQueue.asyncAfter(
         turnBackDelay, [this, first, second, missedPlayer = currentPlayerIndex()] {
             turnBack(first, second, missedPlayer);
@@ -97,7 +97,7 @@ void MemoryGame::advanceToNextRoundIfNeeded()
     }
     m_currentRound = currentRound() + 1;
     loadRound(currentRound());
-    // Also over the message of a round that could not be dealt: its alert tells.
+    // Replaces even the line that tells of too few pictures: the alert says it, too.
     m_headerText = isVersusMode()
                        ? localizedText("player_starts_round", {playerToMove(), currentRound()})
                        : localizedText("round_of_rounds", {currentRound(), total});
