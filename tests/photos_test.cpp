@@ -7,6 +7,7 @@
 #include "support/broken_world.h"
 #include "support/game_window.h"
 #include "support/heif_writer.h"
+#include "support/photo_files.h"
 
 #include <QColorSpace>
 #include <QElapsedTimer>
@@ -14,8 +15,6 @@
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <string_view>
 #include <sys/mount.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -48,24 +47,6 @@ QString words(const PhotoAssets& assets)
     for (const PhotoAsset& asset : assets)
         paths << QString::fromLatin1(asset);
     return paths.join(u' ');
-}
-
-/// As the helper of the other tests, but for names that are no text, in folders that it makes.
-void writeFile(const QByteArray& path, std::string_view contents = {})
-{
-    const std::filesystem::path file(path.toStdString());
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file) << contents;
-}
-
-/// A picture of one colour, which differs with `number`.
-void writePicture(const QString& path, int number)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QImage picture(40, 30, QImage::Format_RGB32);
-    picture.fill(QColor::fromHsv(number * 11 % 360, 200, 200));
-    if (!picture.save(path))
-        qFatal("the test cannot write its picture");
 }
 
 } // namespace
