@@ -58,6 +58,18 @@ private Q_SLOTS:
         QCOMPARE(m_window->text(u"headerText"_s), u"Round 1 of 1"_s);
     }
 
+    void inputMeetsWhatTheGameHasComeTo()
+    {
+        game().setPlayerName(u"Ann"_s);
+        game().startNewGame(); // the form is still shown, with the focus on its field
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent space(type, Qt::Key_Space, Qt::NoModifier, u" "_s);
+            QCoreApplication::sendEvent(m_window->window().windowHandle(), &space);
+        }
+        QVERIFY(game().cards()[0].isFaceUp);
+        QCOMPARE(game().playerName(), u"Ann"_s);
+    }
+
     void aWholeGameByKeyboard()
     {
         m_window->startGame();
