@@ -4,7 +4,7 @@
 // a board that draws everything anew. The pixel ratio is the application's.
 #include "report.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 #include "ui/frame_clock.h"
 #include "ui/game_board.h"
 #include "vector_board.h"
@@ -83,7 +83,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     setFrameTimeSource([] { return now; });
-    GameWindow shown([](TestPlatform& platform) {
+    GameWindow shown([](StagePlatform& platform) {
         platform.useBuiltResources();
         platform.defaults->setInteger(SettingsKeys::AmountCards, 6);
     });

@@ -4,7 +4,7 @@
 // the screen that differs. Sounds are on.
 #include "report.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 
 #include <QScreen>
 
@@ -49,7 +49,7 @@ int main(int argc, char* argv[])
     Samples first;
     Samples later;
     for (int i = 0; i < games; ++i) {
-        GameWindow shown([](TestPlatform& platform) {
+        GameWindow shown([](StagePlatform& platform) {
             platform.useBuiltResources();
             platform.defaults->setInteger(SettingsKeys::AmountCards, 6);
             platform.defaults->setInteger(SettingsKeys::PlaySounds, 1);

@@ -6,7 +6,7 @@
 #include "highscores/recording.h"
 #include "report.h"
 #include "settings/settings_keys.h"
-#include "support/test_platform.h"
+#include "stage/stage_platform.h"
 
 #include <QDir>
 #include <QFile>
@@ -146,7 +146,7 @@ void sounds()
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
-    const TestPlatform services;
+    const StagePlatform services;
     services.defaults->setInteger(SettingsKeys::AmountCards, 6);
     dealing();
     results();

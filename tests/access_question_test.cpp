@@ -6,8 +6,8 @@
 #include "platform/widgets/access_dialog.h"
 #include "settings/preferences/preferences.h"
 #include "settings/settings_keys.h"
-#include "support/files.h"
-#include "support/game_window.h"
+#include "stage/files.h"
+#include "stage/game_window.h"
 #include "support/real_photos.h"
 
 #include <QAccessible>
@@ -26,7 +26,7 @@ namespace {
 class PhotoWindow : public GameWindow {
 public:
     explicit PhotoWindow(const QString& deck)
-        : GameWindow([&deck](TestPlatform& services) {
+        : GameWindow([&deck](StagePlatform& services) {
             services.defaults->setString(SettingsKeys::CardDeck, deck);
         })
     {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/application_bundle.h"
 #include "platform/audio_player.h"
-#include "support/files.h"
+#include "stage/files.h"
 #include "support/recording.h"
 
 #include <QDataStream>

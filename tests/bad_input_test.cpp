@@ -5,9 +5,9 @@
 #include "highscores/highscore_file.h"
 #include "platform/user_folders.h"
 #include "settings/settings_keys.h"
+#include "stage/files.h"
+#include "stage/game_window.h"
 #include "support/broken_world.h"
-#include "support/files.h"
-#include "support/game_window.h"
 #include "support/output_of.h"
 
 using namespace Qt::StringLiterals;
@@ -25,20 +25,20 @@ QByteArray resultsOf(std::size_t count, const QString& name)
 /// settings are still those from before.
 struct World {
     const char* name;
-    std::function<void(TestPlatform&)> prepare;
+    std::function<void(StagePlatform&)> prepare;
     int results;
     enum class Settings { change, stay } settings = Settings::change;
 };
 using Settings = World::Settings;
 constexpr int untouched = -1; ///< what lies there stays as it is
 
-void settings(TestPlatform& platform, const QByteArray& contents)
+void settings(StagePlatform& platform, const QByteArray& contents)
 {
     writeFile(settingsFile(), contents);
     platform.defaults->reread();
 }
 
-void setAll(TestPlatform& platform, const QByteArray& number, const QByteArray& rounds)
+void setAll(StagePlatform& platform, const QByteArray& number, const QByteArray& rounds)
 {
     settings(platform, QByteArray("[General]\nAmountCards=#\nGameIsActive=#\nRemoveMatch=#\n"
                                   "LaunchInFullscreen=#\nPlaySounds=#\nVolumeSound=#\n"
@@ -49,8 +49,8 @@ void setAll(TestPlatform& platform, const QByteArray& number, const QByteArray& 
 
 const std::vector<World>& worlds()
 {
-    const auto results = [](TestPlatform& platform) { return platform.highscoreFile(); };
-    const auto folder = [](TestPlatform& platform) {
+    const auto results = [](StagePlatform& platform) { return platform.highscoreFile(); };
+    const auto folder = [](StagePlatform& platform) {
         return QFileInfo(platform.highscoreFile()).path();
     };
     static const std::vector<World> worlds{
@@ -127,12 +127,12 @@ private Q_SLOTS:
         QFETCH(const int, world);
         const World& where = worlds().at(std::size_t(world));
         std::unique_ptr<AsNobody> nobody;
-        const auto identities = [](const TestPlatform& platform) {
+        const auto identities = [](const StagePlatform& platform) {
             return std::pair(identity(platform.highscoreFile()), identity(settingsFile()));
         };
-        std::invoke_result_t<decltype(identities), TestPlatform&> before;
+        std::invoke_result_t<decltype(identities), StagePlatform&> before;
         QElapsedTimer time;
-        GameWindow window([&](TestPlatform& platform) {
+        GameWindow window([&](StagePlatform& platform) {
             QDir().mkpath(QFileInfo(platform.highscoreFile()).path());
             where.prepare(platform);
             before = identities(platform);
@@ -164,7 +164,7 @@ private Q_SLOTS:
 
     void aFullDiskCostsNoSettingAndNoResult()
     {
-        GameWindow window([](TestPlatform& platform) {
+        GameWindow window([](StagePlatform& platform) {
             settings(platform, "[General]\nAmountRounds=2\nMore=" + QByteArray(1000, 'x') + '\n');
             platform.writeHighscoreFile(resultsOf(3, u"Ben"_s));
         });

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program itself in a broken world: it comes up, ends when told to, and spoils no file.
+#include "stage/files.h"
 #include "support/broken_world.h"
-#include "support/files.h"
 #include "support/program.h"
 
 #include <QProcess>

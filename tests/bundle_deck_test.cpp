@@ -4,7 +4,7 @@
 #include "decks/deck_name.h"
 #include "platform/application_bundle.h"
 #include "platform/user_defaults.h"
-#include "support/files.h"
+#include "stage/files.h"
 #include "support/output_of.h"
 
 #include <QDir>

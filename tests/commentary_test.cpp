@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is said at the turns of a game that a game played to its end does not take.
 #include "settings/settings_keys.h"
-#include "support/play.h"
-#include "support/test_platform.h"
+#include "stage/play.h"
+#include "stage/stage_platform.h"
 #include "ui/card_texts.h"
 #include "ui/commentary.h"
 
@@ -18,7 +18,7 @@ class CommentaryTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_platform = std::make_unique<TestPlatform>();
+        m_platform = std::make_unique<StagePlatform>();
         m_platform->useResources(m_platform->home.path());
         makeDeck(m_platform->home.path(), u"Cyberpunk"_s, 6);
         m_platform->defaults->setInteger(SettingsKeys::AmountRounds, 2);
@@ -84,7 +84,7 @@ private:
         m_game->startNewGame();
     }
 
-    std::unique_ptr<TestPlatform> m_platform{};
+    std::unique_ptr<StagePlatform> m_platform{};
     std::unique_ptr<MemoryGame> m_game{};
     std::unique_ptr<Commentary> m_commentary{};
 };

@@ -8,9 +8,9 @@
 #include "platform/user_folders.h"
 #include "settings/default_settings.h"
 #include "settings/settings_keys.h"
-#include "support/files.h"
-#include "support/play.h"
-#include "support/test_platform.h"
+#include "stage/files.h"
+#include "stage/play.h"
+#include "stage/stage_platform.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -94,7 +94,7 @@ public:
                               std::min(entries->size(), MemoryGame::maxHighscoreEntries);
     }
 
-    TestPlatform platform{};
+    StagePlatform platform{};
     MemoryGame game{};
 
 private:

@@ -4,7 +4,7 @@
 // window; and that all of it can be read and reached on small and large screens.
 #include "highscores/highscore_file.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 #include "support/texts_fit.h"
 
 #include <QFontDatabase>
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// `count` results of each mode for `layout`, by players called `name`.
-void writeResults(TestPlatform& platform, qint64 layout, int count, const QString& name)
+void writeResults(StagePlatform& platform, qint64 layout, int count, const QString& name)
 {
     HighscoreEntries entries;
     for (int i = 0; i < count; ++i) {
@@ -100,7 +100,7 @@ private Q_SLOTS:
         }
     }
 
-    void everythingCanBeReachedAndRead_data() { addRows({1, 6}, TestPlatform::languages()); }
+    void everythingCanBeReachedAndRead_data() { addRows({1, 6}, StagePlatform::languages()); }
 
     void everythingCanBeReachedAndRead()
     {
@@ -174,7 +174,7 @@ private:
         QFETCH(QString, language);
         QFETCH(bool, isFullScreen);
         m_window = std::make_unique<GameWindow>(
-            [&](TestPlatform& platform) {
+            [&](StagePlatform& platform) {
                 platform.defaults->setInteger(SettingsKeys::AmountCards, layout);
                 platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, isFullScreen);
                 writeResults(platform, layout, count, name);

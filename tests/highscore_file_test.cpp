@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "highscores/highscore_file.h"
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <QDir>
 #include <QFile>

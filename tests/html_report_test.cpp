@@ -7,9 +7,9 @@
 #include "highscores/html_report.h"
 #include "platform/date_text.h"
 #include "settings/settings_keys.h"
+#include "stage/files.h"
+#include "stage/stage_platform.h"
 #include "support/broken_world.h"
-#include "support/files.h"
-#include "support/test_platform.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -50,7 +50,7 @@ class HtmlReportTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_platform = std::make_unique<TestPlatform>();
+        m_platform = std::make_unique<StagePlatform>();
         m_report = m_platform->home.filePath(u"data/Paircade/highscores.html"_s);
     }
 
@@ -204,7 +204,7 @@ public Q_SLOTS:
     void takeUrl(const QUrl& url) { m_url = url; }
 
 private:
-    std::unique_ptr<TestPlatform> m_platform{};
+    std::unique_ptr<StagePlatform> m_platform{};
     QString m_report{};
     QUrl m_url{};
 };

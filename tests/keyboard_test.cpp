@@ -5,7 +5,7 @@
 #include "platform/widgets/access_question.h"
 #include "platform/widgets/palettes.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 #include "support/texts_fit.h"
 #include "ui/colours.h"
 
@@ -125,14 +125,14 @@ private Q_SLOTS:
     void everyControlHasItsLetterAndRoom_data()
     {
         QTest::addColumn<QString>("language");
-        for (const QString& language : TestPlatform::languages())
+        for (const QString& language : StagePlatform::languages())
             QTest::newRow(qPrintable(language)) << language;
     }
 
     void everyControlHasItsLetterAndRoom()
     {
         QFETCH(QString, language);
-        GameWindow window([](TestPlatform&) {}, language);
+        GameWindow window([](StagePlatform&) {}, language);
         const QStringList menus = texts(window.window().menuBar()->actions());
         for (const QAction* const menu : window.window().menuBar()->actions())
             checkMnemonics(texts(menu->menu()->actions()));

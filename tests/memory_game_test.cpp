@@ -4,9 +4,9 @@
 #include "game/memory_game.h"
 #include "highscores/highscore_file.h"
 #include "settings/settings_keys.h"
+#include "stage/play.h"
+#include "stage/stage_platform.h"
 #include "support/output_of.h"
-#include "support/play.h"
-#include "support/test_platform.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -20,7 +20,7 @@ class MemoryGameTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_platform = std::make_unique<TestPlatform>();
+        m_platform = std::make_unique<StagePlatform>();
         m_platform->useResources(m_platform->home.path());
         makeDeck(m_platform->home.path(), u"Cyberpunk"_s, 20);
         m_game = std::make_unique<MemoryGame>();
@@ -156,7 +156,7 @@ private:
             qFatal("the test cannot make its folder");
     }
 
-    std::unique_ptr<TestPlatform> m_platform{};
+    std::unique_ptr<StagePlatform> m_platform{};
     std::unique_ptr<MemoryGame> m_game{};
 };
 

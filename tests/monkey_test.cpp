@@ -6,7 +6,7 @@
 // repeat a run; the last actions before a failure are told instead.
 #include "app/termination.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 #include "support/output_of.h"
 #include "support/real_photos.h"
 
@@ -52,7 +52,7 @@ class Monkey : public QObject {
 public:
     Monkey(std::map<QString, int>& seen, qint64 milliseconds)
         : m_seen(seen)
-        , m_window([this](TestPlatform& platform) { prepare(platform); })
+        , m_window([this](StagePlatform& platform) { prepare(platform); })
     {
         connect(&m_window.game(), &MemoryGame::changed, this, [this](MemoryGame::Member member) {
             if (member == MemoryGame::Member::isGameActive && m_window.game().isGameActive())
@@ -74,7 +74,7 @@ private:
         return list.begin()[draw(int(std::size(list)))];
     }
 
-    void prepare(TestPlatform& platform)
+    void prepare(StagePlatform& platform)
     {
         platform.defaults->setInteger(SettingsKeys::AmountCards, draw(8));
         platform.defaults->setInteger(SettingsKeys::AmountRounds, draw(3));
@@ -226,7 +226,7 @@ private:
     /// What others do to the game: the desktop, other programs, the disk.
     void disturb(QWidget& top)
     {
-        TestPlatform& platform = m_window.platform;
+        StagePlatform& platform = m_window.platform;
         doOneOf({
             {u"minimise"_s, [&] { top.setWindowState(top.windowState() ^ Qt::WindowMinimized); }},
             {u"resize"_s, [&] { top.windowHandle()->resize(draw(2000) + 1, draw(1500) + 1); }},
@@ -283,7 +283,7 @@ private Q_SLOTS:
                 // An end in a while, so that each layout and setting has its turn.
                 Monkey monkey(seen, std::min<qint64>(end.remainingTime(), 8000));
                 QApplication::exec();
-                TestPlatform& platform = monkey.window().platform;
+                StagePlatform& platform = monkey.window().platform;
                 monkey.window().delegate.applicationWillTerminate();
                 if (platform.defaults->integer(SettingsKeys::GameIsActive) != 0)
                     complaints << u"a game is left running"_s;

@@ -4,7 +4,7 @@
 // the celebration. The test tells the time.
 #include "platform/widgets/appearance.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 #include "ui/card_faces.h"
 #include "ui/celebration.h"
 #include "ui/invitation.h"
@@ -58,7 +58,7 @@ private Q_SLOTS:
         QVERIFY(qAbs(turned.map(QPointF(100, 0)).y() - (50 - 50 / (1 - 0.5 * sine))) < 0.001);
         QVERIFY(qAbs(turned.map(QPointF(0, 0)).y() - (50 - 50 / (1 + 0.5 * sine))) < 0.001);
         // A card paints nothing beyond what it says.
-        const TestPlatform platform; // has the logo
+        const StagePlatform platform; // has the logo
         TurningCard card{MemoryCard()};
         card.standAs({.turn = 60, .back = 0.5, .front = 0.5});
         QImage canvas(400, 400, QImage::Format_ARGB32_Premultiplied);
@@ -121,7 +121,7 @@ private Q_SLOTS:
 
     void wonRoundsAndEndedGamesAreNotCelebrated()
     {
-        GameWindow window([](TestPlatform& platform) {
+        GameWindow window([](StagePlatform& platform) {
             platform.defaults->setInteger(SettingsKeys::AmountRounds, 2);
         });
         winRound(window);
@@ -141,7 +141,7 @@ private Q_SLOTS:
 
     void theFanAnswersANameAndFollowsItsDeck()
     {
-        GameWindow window([](TestPlatform& platform) { platform.useBuiltResources(); });
+        GameWindow window([](StagePlatform& platform) { platform.useBuiltResources(); });
         auto& fan = window.child<Invitation>(u"invitation"_s);
         QVERIFY(fan.isVisible() && fan.testAttribute(Qt::WA_TransparentForMouseEvents));
         const QWidget& field = window.child<QWidget>(u"playerName"_s);

@@ -4,8 +4,8 @@
 #include "decks/photo_deck.h"
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
+#include "stage/game_window.h"
 #include "support/broken_world.h"
-#include "support/game_window.h"
 #include "support/heif_writer.h"
 #include "support/photo_files.h"
 
@@ -296,7 +296,7 @@ private Q_SLOTS:
         QFETCH(const PhotoAccess, answer);
         QFETCH(const QString, alert);
         QFETCH(const int, pictures);
-        TestPlatform services(nullptr, u"en"_s);
+        StagePlatform services(nullptr, u"en"_s);
         preparePhotos(services, 10);
         if (answer.status != PhotoAuthorization::notDetermined)
             services.prompt.answer = answer;
@@ -334,7 +334,7 @@ private Q_SLOTS:
 
     void photosArePlayedInTheWindow()
     {
-        GameWindow window([&](TestPlatform& services) {
+        GameWindow window([&](StagePlatform& services) {
             preparePhotos(services, 25);
             services.prompt.answer = {PhotoAuthorization::authorized};
             services.defaults->setInteger(SettingsKeys::AmountCards, 6);
@@ -367,7 +367,7 @@ private:
 
     /// Fills the pictures folder: `count` pictures in the album Many, two and a film
     /// in Rome, none in Empty; access is asked for.
-    void preparePhotos(TestPlatform& services, int count) const
+    void preparePhotos(StagePlatform& services, int count) const
     {
         const QString folder = services.home.filePath(u"Pictures/"_s);
         for (int i = 0; i < count; ++i)

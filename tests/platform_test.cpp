@@ -8,7 +8,7 @@
 #include "platform/trim.h"
 #include "platform/user_defaults.h"
 #include "settings/default_settings.h"
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <QDir>
 #include <QFile>

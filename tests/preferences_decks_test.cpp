@@ -28,7 +28,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, status);
         QFETCH(const QStringList, albums);
-        PaneWindow window("CardDeck=80s\nPaircadeAlbum=1\n", [status](TestPlatform& platform) {
+        PaneWindow window("CardDeck=80s\nPaircadeAlbum=1\n", [status](StagePlatform& platform) {
             platform.photos.status = PhotoAuthorization(status);
             platform.photos.folder = u"<Garden>"_s;
             platform.photos.content.list = {{u" Trip\n"_s, 3}, {u"Cat"_s, 1},  {std::nullopt, 5},

@@ -98,7 +98,7 @@ private Q_SLOTS:
 
     void theMainWindowFollowsTheLayout()
     {
-        PaneWindow window("AmountCards=3\n", [](TestPlatform& platform) {
+        PaneWindow window("AmountCards=3\n", [](StagePlatform& platform) {
             platform.writeHighscoreFile(encodeHighscores({{.gameMode = soloMode,
                                                            .playerName = u"Mia"_s,
                                                            .elapsedSeconds = 9,
@@ -121,7 +121,7 @@ private Q_SLOTS:
 
     void withoutAMainWindowSettingsAreStored()
     {
-        TestPlatform platform;
+        StagePlatform platform;
         AppDelegate notLaunched;
         for (MainWindowLink* const link :
              std::initializer_list<MainWindowLink*>{nullptr, &notLaunched}) {
@@ -167,7 +167,7 @@ private Q_SLOTS:
 
     void theVolumeIsStoredAndHeardWhenAChangeEnds()
     {
-        PaneWindow window("VolumeSound=50\nPlaySounds=0\n", [](TestPlatform& platform) {
+        PaneWindow window("VolumeSound=50\nPlaySounds=0\n", [](StagePlatform& platform) {
             const QString sound = u"/Sounds/card_done.mp3"_s;
             const QString shipped = *ApplicationBundle::ofRunningProgram().resourceFolder();
             QDir().mkpath(platform.home.filePath(u"Sounds"_s));
@@ -237,7 +237,7 @@ private Q_SLOTS:
     void settingsThatCannotBeWrittenHoldForTheProcess()
     {
         // The folder of the settings is a file, so that root cannot write either.
-        PaneWindow window({}, [](TestPlatform& platform) {
+        PaneWindow window({}, [](StagePlatform& platform) {
             const QString folder = platform.home.filePath(u"config/Paircade"_s);
             QDir(folder).removeRecursively();
             writeFile(folder, {});

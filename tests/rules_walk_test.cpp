@@ -8,10 +8,10 @@
 #include "highscores/highscore_file.h"
 #include "platform/user_folders.h"
 #include "settings/settings_keys.h"
+#include "stage/play.h"
+#include "stage/stage_platform.h"
 #include "support/output_of.h"
-#include "support/play.h"
 #include "support/reference_game.h"
-#include "support/test_platform.h"
 
 #include <QRandomGenerator>
 #include <QSet>
@@ -348,7 +348,7 @@ private:
 
     std::map<QString, int>& m_happened;
     QRandomGenerator m_random;
-    TestPlatform m_platform{};
+    StagePlatform m_platform{};
     std::unique_ptr<Game> m_game{};
     Rules m_rules{};
     std::vector<Member> m_changes{};

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One game at a time uses a folder; a second start brings the first to the front.
 #include "app/single_instance.h"
+#include "stage/files.h"
 #include "support/broken_world.h"
-#include "support/files.h"
 #include "support/program.h"
 
 #include <QDir>

@@ -4,10 +4,10 @@
 // those that cannot be played.
 #include "game/memory_game.h"
 #include "settings/settings_keys.h"
-#include "support/files.h"
-#include "support/play.h"
+#include "stage/files.h"
+#include "stage/play.h"
+#include "stage/stage_platform.h"
 #include "support/recording.h"
-#include "support/test_platform.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ namespace {
 /// Turns a card of a real game with the settings PlaySounds and VolumeSound.
 void turnACard(const QString& playSounds, const QString& volume)
 {
-    TestPlatform platform;
+    StagePlatform platform;
     platform.defaults->setString(SettingsKeys::PlaySounds, playSounds);
     platform.defaults->setString(SettingsKeys::VolumeSound, volume);
     MemoryGame game;
@@ -29,7 +29,7 @@ void turnACard(const QString& playSounds, const QString& volume)
 /// Plays a game with one miss, with the sounds of the folder `resources`.
 void playAGame(const QString& resources, const QString& playSounds)
 {
-    TestPlatform platform;
+    StagePlatform platform;
     platform.useResources(resources);
     makeDeck(resources, u"Cyberpunk"_s, 6);
     platform.defaults->setString(SettingsKeys::PlaySounds, playSounds);

@@ -8,7 +8,7 @@
 #include "game/game_status.h"
 #include "platform/widgets/alert_box.h"
 #include "settings/settings_keys.h"
-#include "support/play.h"
+#include "stage/play.h"
 #include "support/real_photos.h"
 #include "ui/content_view.h"
 
@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Brings up what `under` names, as the player would find it when the end comes.
-void bringUp(const QByteArray& under, AppDelegate& delegate, TestPlatform& platform)
+void bringUp(const QByteArray& under, AppDelegate& delegate, StagePlatform& platform)
 {
     MemoryGame& game = delegate.contentView()->game();
     const auto choose = [&delegate](const char* item) {
@@ -76,7 +76,7 @@ int leaveBy(const QByteArray& fullWay)
     const QByteArray under = fullWay.chopped(way.size()).replace(": ", "");
     QApplication::setQuitOnLastWindowClosed(false);
     AlertBox alerts;
-    TestPlatform platform(&alerts);
+    StagePlatform platform(&alerts);
     platform.useResources(platform.home.path());
     makeDeck(platform.home.path(), u"Cyberpunk"_s, 6);
     const RealPhotos photos(platform, alerts, platform.home.path());

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/application_bundle.h"
 #include "platform/localized_text.h"
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <QCoreApplication>
 #include <QDir>

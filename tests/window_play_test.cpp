@@ -3,7 +3,7 @@
 // Plays in the real window with mouse and keyboard.
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 
 using namespace Qt::StringLiterals;
 

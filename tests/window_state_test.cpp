@@ -5,7 +5,7 @@
 #include "highscores/highscore_file.h"
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 
 #include <QPushButton>
 #include <QScrollArea>
@@ -17,7 +17,7 @@ namespace {
 
 /// Results of one player for a new window, the fastest having the most failures; and one
 /// of two players, without what it may lack.
-void writeResults(TestPlatform& platform, int count, const QString& name = u"Mia"_s)
+void writeResults(StagePlatform& platform, int count, const QString& name = u"Mia"_s)
 {
     HighscoreEntries entries;
     for (int i = 0; i < count; ++i)
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QFETCH(qint64, amountCards);
         QFETCH(QSize, size);
         QFETCH(int, cards);
-        GameWindow window([&](TestPlatform& platform) {
+        GameWindow window([&](StagePlatform& platform) {
             platform.defaults->setInteger(SettingsKeys::AmountCards, amountCards);
         });
         const ContentView& content = *window.delegate.contentView();
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
     void fullScreenKeepsItsSizeAndGivesItBack()
     {
-        GameWindow window([](TestPlatform& platform) {
+        GameWindow window([](StagePlatform& platform) {
             platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, 1);
         });
         QTRY_COMPARE(window.window().size(), window.screen().size());
@@ -94,7 +94,7 @@ private Q_SLOTS:
     void theSidebarShowsFiveOfEachList()
     {
         const QString name = u"<img src=x>&amp; %2"_s; // never markup
-        GameWindow window([&](TestPlatform& platform) { writeResults(platform, 12, name); });
+        GameWindow window([&](StagePlatform& platform) { writeResults(platform, 12, name); });
         QCOMPARE(window.game().bestTimeScores().size(), 10U);
         QCOMPARE(window.text(u"bestTimesHeading"_s), u"Best Times"_s);
         QCOMPARE(window.text(u"bestTimes1"_s), u"1. "_s + name + u" – 00:59"_s);
@@ -120,7 +120,7 @@ private Q_SLOTS:
     {
         QFETCH(int, height);
         QFETCH(bool, buttonsAreSeen);
-        GameWindow window([](TestPlatform& platform) { writeResults(platform, 12); });
+        GameWindow window([](StagePlatform& platform) { writeResults(platform, 12); });
         window.startGame();
         window.window().setContentSize({1100, height});
         QTest::qWait(50);
@@ -139,7 +139,7 @@ private Q_SLOTS:
 
     void theMenuFollowsTheGame()
     {
-        GameWindow window([](TestPlatform& platform) { writeResults(platform, 1); });
+        GameWindow window([](StagePlatform& platform) { writeResults(platform, 1); });
         const auto enabled = [&window] {
             QStringList items;
             for (const QString& item : {u"new_game"_s, u"end_game"_s, u"restore_highscores"_s}) {

@@ -59,7 +59,7 @@ private:
     void versusForm(const QStringList& names)
     {
         const QString kind = names == shortNames ? QString() : u"-long"_s;
-        const Window shown = window(u"80s"_s, 2, names, [](TestPlatform& platform) {
+        const Window shown = window(u"80s"_s, 2, names, [](StagePlatform& platform) {
             platform.defaults->setInteger(SettingsKeys::AmountRounds, 1);
         });
         shown->click(shown->child<QCheckBox>(u"versusCheckbox"_s));
@@ -83,7 +83,7 @@ private:
     void board(int layout)
     {
         const Window shown =
-            window(decks[(layout + 2) % 4], layout, shortNames, [layout](TestPlatform& platform) {
+            window(decks[(layout + 2) % 4], layout, shortNames, [layout](StagePlatform& platform) {
                 platform.defaults->setInteger(SettingsKeys::RemoveMatch, layout == 3 ? 1 : 0);
             });
         if (layout == 5) {
@@ -118,7 +118,7 @@ private:
 
     void turns()
     {
-        const Window shown = window(u"Cyberpunk"_s, 1, shortNames, [](TestPlatform& platform) {
+        const Window shown = window(u"Cyberpunk"_s, 1, shortNames, [](StagePlatform& platform) {
             platform.defaults->setInteger(SettingsKeys::RemoveMatch, 1);
         });
         startSolo(*shown);
@@ -142,7 +142,7 @@ private:
     /// From the last pair to the result; each deck at another moment.
     void ending(qsizetype deck)
     {
-        const Window shown = window(decks[deck], 1, shortNames, [](TestPlatform& platform) {
+        const Window shown = window(decks[deck], 1, shortNames, [](StagePlatform& platform) {
             platform.defaults->setInteger(SettingsKeys::AmountRounds, 1);
         });
         startSolo(*shown);

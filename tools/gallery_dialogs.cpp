@@ -71,7 +71,7 @@ private:
 
     void preferencePane(const QString& name, const QString& deck, PhotoAuthorization status)
     {
-        const Window shown = window(deck, 4, shortNames, [status](TestPlatform& platform) {
+        const Window shown = window(deck, 4, shortNames, [status](StagePlatform& platform) {
             platform.photos.status = status;
             platform.photos.content.list = {{u"Holidays in Norway"_s, 40}, {u"Grandmother"_s, 12}};
             platform.photos.folder = u"The pictures of our long way to the north"_s;
@@ -103,7 +103,7 @@ private:
 
     void photoMessages(const QString& deck, PhotoAuthorization status, const QStringList& names)
     {
-        const Window shown = window(deck, 4, shortNames, [status](TestPlatform& platform) {
+        const Window shown = window(deck, 4, shortNames, [status](StagePlatform& platform) {
             platform.photos.status.reset();
             platform.photoAccess.write({status});
         });
@@ -121,7 +121,7 @@ private:
     }
 
     /// An album of 24 landscapes, each with a sky, a hill and a sun of its own.
-    static void paintPhotos(const TestPlatform& platform)
+    static void paintPhotos(const StagePlatform& platform)
     {
         const QString album = platform.home.filePath(u"Pictures/Hills"_s);
         QDir().mkpath(album);
@@ -140,7 +140,7 @@ private:
 
     void photos()
     {
-        const Window shown = window(u"iPhoto"_s, 4, shortNames, [](TestPlatform& platform) {
+        const Window shown = window(u"iPhoto"_s, 4, shortNames, [](StagePlatform& platform) {
             paintPhotos(platform);
             platform.photos.status.reset();
             platform.photoAccess.write({PhotoAuthorization::authorized});

@@ -6,7 +6,7 @@
 #include "gallery_play.h"
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
-#include "support/game_window.h"
+#include "stage/game_window.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -26,15 +26,15 @@ protected:
                                                QStringLiteral("Jonas"), QStringLiteral("Lena"),
                                                QStringLiteral("Ben")};
 
-    using Prepare = std::function<void(TestPlatform&)>;
+    using Prepare = std::function<void(StagePlatform&)>;
     using Window = std::unique_ptr<GameWindow>;
 
     Window window(
         const QString& deck, int layout, const QStringList& players = shortNames,
-        const Prepare& prepare = [](TestPlatform&) {})
+        const Prepare& prepare = [](StagePlatform&) {})
     {
         auto shown = std::make_unique<GameWindow>(
-            [&](TestPlatform& platform) {
+            [&](StagePlatform& platform) {
                 platform.useBuiltResources();
                 platform.defaults->setString(SettingsKeys::CardDeck, deck);
                 platform.defaults->setInteger(SettingsKeys::AmountCards, layout);

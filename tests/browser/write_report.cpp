@@ -4,7 +4,7 @@
 // of the environment, and says where it is.
 #include "game/memory_game.h"
 #include "platform/localized_text.h"
-#include "support/test_platform.h"
+#include "stage/stage_platform.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -14,7 +14,7 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     const QByteArray home = qgetenv("XDG_DATA_HOME");
-    TestPlatform platform;
+    StagePlatform platform;
     qputenv("XDG_DATA_HOME", home);
     QTranslator texts;
     if (!loadCatalogue(texts,

@@ -4,7 +4,7 @@
 // the game starts as its helper, with the input for a library.
 #include "fuzz.h"
 #include "platform/photo_fetch.h"
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <algorithm>
 

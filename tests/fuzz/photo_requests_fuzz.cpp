@@ -5,7 +5,7 @@
 #include "fuzz.h"
 #include "photos/listing.h"
 #include "photos/protocol/messages.h"
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <QDir>
 #include <QFile>

@@ -8,7 +8,7 @@
 #include "platform/user_defaults.h"
 #include "settings/default_settings.h"
 #include "settings/settings_keys.h"
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <cmath>
 

@@ -4,8 +4,8 @@
 
 #include "platform/user_folders.h"
 #include "settings/preferences/preferences.h"
-#include "support/files.h"
-#include "support/game_window.h"
+#include "stage/files.h"
+#include "stage/game_window.h"
 
 #include <QComboBox>
 #include <QPointer>
@@ -31,8 +31,8 @@ class PaneWindow : public GameWindow {
 public:
     explicit PaneWindow(
         const QByteArray& settings = {},
-        const std::function<void(TestPlatform&)>& prepare = [](TestPlatform&) {})
-        : GameWindow([&](TestPlatform& services) {
+        const std::function<void(StagePlatform&)>& prepare = [](StagePlatform&) {})
+        : GameWindow([&](StagePlatform& services) {
             prepare(services);
             if (settings.isEmpty())
                 return;

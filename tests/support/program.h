@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <QCoreApplication>
 #include <QProcess>

@@ -3,13 +3,13 @@
 #pragma once
 
 #include "platform/widgets/access_question.h"
-#include "support/test_platform.h"
+#include "stage/stage_platform.h"
 
 /// While this lives, the photos are the real library over the folder `pictures`, and the
 /// real dialog asks about them.
 class RealPhotos {
 public:
-    RealPhotos(TestPlatform& services, Alerts& alerts, const QString& pictures)
+    RealPhotos(StagePlatform& services, Alerts& alerts, const QString& pictures)
         : m_question(pictures)
         , m_library(services.photoAccess, &m_question, pictures,
                     PhotoLibrary::helperOfRunningProgram())

@@ -8,7 +8,7 @@ inline void writeFile(const QString& path, const QByteArray& contents)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("the test cannot write its file");
+        qFatal("cannot write the file");
 }
 
 /// What is in the file; empty if it cannot be read.

@@ -20,7 +20,7 @@ inline void makeDeck(const QString& resources, const QString& deck, int count)
         picture.fill(QColor::fromHsv(i * 359 / std::max(count, 1), 200, 200));
         if (!picture.save(folder +
                           QStringLiteral("/picture%1.png").arg(i, 2, 10, QLatin1Char('0'))))
-            qFatal("the test cannot write its deck");
+            qFatal("cannot write the deck");
     }
 }
 

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "support/test_platform.h"
+#include "stage/stage_platform.h"
 
 #include "platform/localized_text.h"
 #include "platform/user_folders.h"
 #include "settings/default_settings.h"
 #include "settings/settings_keys.h"
-#include "support/files.h"
+#include "stage/files.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
-TestPlatform::TestPlatform(Alerts* alerts, const QString& language)
+StagePlatform::StagePlatform(Alerts* alerts, const QString& language)
     : m_alerts(alerts == nullptr ? alertLog : *alerts)
 {
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
@@ -26,12 +26,12 @@ TestPlatform::TestPlatform(Alerts* alerts, const QString& language)
     QCoreApplication::installTranslator(&m_texts);
 }
 
-TestPlatform::~TestPlatform()
+StagePlatform::~StagePlatform()
 {
     usePlatform(nullptr);
 }
 
-QStringList TestPlatform::languages()
+QStringList StagePlatform::languages()
 {
     const QDir folder(ApplicationBundle::ofRunningProgram().resourceFolder().value() +
                       QStringLiteral("/translations"));
@@ -41,7 +41,7 @@ QStringList TestPlatform::languages()
     return languages;
 }
 
-void TestPlatform::useResources(const QString& resourceFolder)
+void StagePlatform::useResources(const QString& resourceFolder)
 {
     m_bundle = std::make_unique<ApplicationBundle>(resourceFolder);
     m_platform = std::make_unique<Platform>(Platform{*defaults, *m_bundle, mainQueue, notifications,
@@ -49,23 +49,23 @@ void TestPlatform::useResources(const QString& resourceFolder)
     usePlatform(m_platform.get());
 }
 
-void TestPlatform::useBuiltResources()
+void StagePlatform::useBuiltResources()
 {
     useResources(ApplicationBundle::ofRunningProgram().resourceFolder().value());
 }
 
-QString TestPlatform::highscoreFile() const
+QString StagePlatform::highscoreFile() const
 {
     return home.filePath(QStringLiteral("data/Paircade/highscores.json"));
 }
 
-void TestPlatform::writeHighscoreFile(const QByteArray& contents) const
+void StagePlatform::writeHighscoreFile(const QByteArray& contents) const
 {
     QDir().mkpath(home.filePath(QStringLiteral("data/Paircade")));
     writeFile(highscoreFile(), contents);
 }
 
-QByteArray TestPlatform::readHighscoreFile() const
+QByteArray StagePlatform::readHighscoreFile() const
 {
     return contentsOf(highscoreFile());
 }

@@ -6,8 +6,8 @@
 #include "app/main_window.h"
 #include "game/memory_game.h"
 #include "platform/widgets/alert_box.h"
-#include "support/play.h"
-#include "support/test_platform.h"
+#include "stage/play.h"
+#include "stage/stage_platform.h"
 #include "ui/content_view.h"
 
 #include <QAbstractButton>
@@ -27,7 +27,7 @@ class GameWindow {
 public:
     /// `prepare` may write settings and results before the launch.
     explicit GameWindow(
-        const std::function<void(TestPlatform&)>& prepare = [](TestPlatform&) {},
+        const std::function<void(StagePlatform&)>& prepare = [](StagePlatform&) {},
         const QString& language = QStringLiteral("en"))
         : platform(&alerts, language)
     {
@@ -116,7 +116,7 @@ public:
     }
 
     AlertBox alerts{};
-    TestPlatform platform;
+    StagePlatform platform;
     AppDelegate delegate{};
 };
 

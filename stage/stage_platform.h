@@ -18,7 +18,7 @@
 #include <QTranslator>
 #include <memory>
 
-/// Keeps the alerts instead of showing them, for tests without a window.
+/// Keeps the alerts instead of showing them, for callers without a window.
 class AlertLog : public Alerts {
 public:
     void warn(const QString& messageText, const QString& informativeText,
@@ -38,8 +38,8 @@ public:
     mutable QStringList paths{}; ///< Oldest first.
 };
 
-/// Answers as a test wants, and counts how often it was asked.
-class TestPrompt : public AccessPrompt {
+/// Answers as it is told, and counts how often it was asked.
+class StagePrompt : public AccessPrompt {
 public:
     std::optional<PhotoAccess> askForPhotoAccess() override
     {
@@ -51,9 +51,9 @@ public:
     int asked = 0;
 };
 
-/// The real photo library of the home, in its folder Pictures, but for what a test
-/// puts in its place. Restricted if not told otherwise.
-class TestPhotoLibrary : public PhotoLibrary {
+/// The real photo library of the home, in its folder Pictures, but for what its
+/// owner puts in its place. Restricted if not told otherwise.
+class StagePhotoLibrary : public PhotoLibrary {
 public:
     using PhotoLibrary::PhotoLibrary;
 
@@ -80,11 +80,12 @@ public:
 ///
 /// Settings and results are real files under a temporary folder; decks, sounds
 /// and texts are those of the build. Sounds are off.
-class TestPlatform {
+class StagePlatform {
 public:
     /// `alerts` shows the alerts; without one they go to alertLog.
-    explicit TestPlatform(Alerts* alerts = nullptr, const QString& language = QStringLiteral("en"));
-    ~TestPlatform();
+    explicit StagePlatform(Alerts* alerts = nullptr,
+                           const QString& language = QStringLiteral("en"));
+    ~StagePlatform();
 
     /// The languages of all catalogues of the build.
     [[nodiscard]] static QStringList languages();
@@ -105,10 +106,10 @@ public:
     MainQueue mainQueue{};
     NotificationCenter notifications{};
     AudioPlayer audio{};
-    TestPrompt prompt{};
+    StagePrompt prompt{};
     PhotoAccessStore photoAccess{home.filePath(QStringLiteral("config/Paircade/PhotoAccess.conf"))};
-    TestPhotoLibrary photos{photoAccess, &prompt, home.filePath(QStringLiteral("Pictures")),
-                            PhotoLibrary::helperOfRunningProgram()};
+    StagePhotoLibrary photos{photoAccess, &prompt, home.filePath(QStringLiteral("Pictures")),
+                             PhotoLibrary::helperOfRunningProgram()};
     AlertLog alertLog{};
     OpenedFiles openedFiles{};
 
