@@ -3,11 +3,11 @@
 #include "photos/card_photo.h"
 
 #include "photos/file_kind.h"
+#include "photos/film_stills.h"
 #include "photos/heif_files.h"
 #include "photos/image_files.h"
 #include "photos/png_rows.h"
 #include "photos/protocol/messages.h"
-#include "photos/video_stills.h"
 
 #include <QColorSpace>
 #include <algorithm>
@@ -27,7 +27,7 @@ QImage decoded(int file)
     case FileKind::heif:
         return readHeif(file);
     case FileKind::film:
-        return videoStill(file);
+        return filmStill(file);
     case FileKind::png:
         if (const QImage image = readPngRows(file); !image.isNull())
             return image;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The module that decodes films; see video_stills.h.
-#include "photos/video_stills.h"
+// The module that decodes films; see film_stills.h.
+#include "photos/film_stills.h"
 
 #include <libffmpegthumbnailer/videothumbnailerc.h>
 #include <memory>

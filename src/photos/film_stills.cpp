@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "photos/video_stills.h"
+#include "photos/film_stills.h"
 
 #include "photos/image_files.h"
 
@@ -35,7 +35,7 @@ bool isBlack(const QImage& image)
 
 } // namespace
 
-QImage videoStill(int file)
+QImage filmStill(int file)
 {
     const StillFunction takeStill = loadedFunction();
     if (takeStill == nullptr)

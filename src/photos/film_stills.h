@@ -10,7 +10,7 @@
 /// What decodes films is a module beside the program, loaded with the first of
 /// them: it brings a hundred libraries with it, which pictures do without. Where
 /// the module is missing films have no stills.
-[[nodiscard]] QImage videoStill(int file);
+[[nodiscard]] QImage filmStill(int file);
 
 /// What the module offers, under the name of `stillFunctionName`: fills `still`
 /// with the frame at `percent` of the film at `path`.
