@@ -8,7 +8,6 @@
 #include <memory>
 
 class Announcer;
-class Celebration;
 class Commentary;
 class GameBoard;
 class Header;
