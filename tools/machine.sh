@@ -19,12 +19,13 @@ machines=$(mktemp -d "${TMPDIR:-/var/tmp}/paircade-machine-XXXXXX")
 chmod 755 "$machines"
 
 finish_machines() {
-    local proc
+    local status=$? proc
     # debootstrap leaves this behind when it is interrupted.
     for proc in "$machines"/*/proc; do
         if mountpoint -q "$proc"; then umount "$proc" || return; fi
     done
-    if $keep; then
+    # One on which something failed may tell why.
+    if $keep || [[ $status -ne 0 && $status -ne 130 ]]; then
         echo "The system is in $machines"
     else
         rm -rf --one-file-system "$machines"
