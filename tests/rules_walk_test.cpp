@@ -277,14 +277,6 @@ private:
         return timers;
     }
 
-    /// All of the records but their ids.
-    static QByteArray contents(HighscoreEntries entries)
-    {
-        for (HighscoreEntry& entry : entries)
-            entry.id = {};
-        return encodeHighscores(entries);
-    }
-
     static QVariantList sides(const MemoryCards& cards)
     {
         QVariantList all;
@@ -334,15 +326,18 @@ private:
         same("cards", sides(game.cards()), sides(rules.cards));
         if (m_changes.empty())
             return all;
-        same("bestTimeScores", contents(game.bestTimeScores()), contents(rules.bestTimeScores));
-        same("bestFailureScores", contents(game.bestFailureScores()),
-             contents(rules.bestFailureScores));
-        same("bestVersusScores", contents(game.bestVersusScores()),
-             contents(rules.bestVersusScores));
-        same("the file",
-             contents(
-                 readHighscores(m_platform.highscoreFile()).entries.value_or(HighscoreEntries())),
-             contents(rules.file));
+        const auto sameRecords = [&](const char* what, HighscoreEntries real,
+                                     const HighscoreEntries& rule) {
+            for (HighscoreEntry& entry : real)
+                entry.id = {};
+            same(what, encodeHighscores(real), encodeHighscores(rule));
+        };
+        sameRecords("bestTimeScores", game.bestTimeScores(), rules.bestTimeScores);
+        sameRecords("bestFailureScores", game.bestFailureScores(), rules.bestFailureScores);
+        sameRecords("bestVersusScores", game.bestVersusScores(), rules.bestVersusScores);
+        sameRecords("the file",
+                    readHighscores(m_platform.highscoreFile()).entries.value_or(HighscoreEntries()),
+                    rules.file);
         return all;
     }
 

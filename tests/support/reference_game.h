@@ -21,6 +21,7 @@ using namespace Qt::StringLiterals;
 class ReferenceGame {
 public:
     using Member = MemoryGame::Member;
+    using Number = std::int64_t;
     struct TurnBack {
         std::size_t first = 0;
         std::size_t second = 0;
@@ -30,8 +31,7 @@ public:
     using Task = std::variant<QString, TurnBack>;
 
     // The surroundings.
-    QMap<QString, std::int64_t> settings{{SettingsKeys::AmountCards, 1},
-                                         {SettingsKeys::AmountRounds, 1}};
+    QMap<QString, Number> settings{{SettingsKeys::AmountCards, 1}, {SettingsKeys::AmountRounds, 1}};
     QString deckSetting = u"Cyberpunk"_s;
     QHash<QString, int> deckSizes{};
     HighscoreEntries file{};
@@ -49,10 +49,10 @@ public:
     QString headerText = localizedText("enter_name");
     HighscoreEntries bestTimeScores{}, bestFailureScores{}, bestVersusScores{};
     MemoryCards cards{};
-    std::int64_t currentRound = 1, elapsedSeconds = 0, failedAttempts = 0;
+    Number currentRound = 1, elapsedSeconds = 0, failedAttempts = 0;
     bool gameCompleted = false, isGameActive = false, isVersusMode = false;
     int currentPlayerIndex = 0;
-    std::array<std::int64_t, 2> playerScores{0, 0};
+    std::array<Number, 2> playerScores{0, 0};
     std::optional<std::size_t> firstSelectedIndex{};
     bool isCheckingPair = false, timer = false, timerStarted = false;
 
@@ -63,29 +63,22 @@ public:
         assignments.push_back(name);
     }
 
-    [[nodiscard]] int pairsPerRound() const
+    int pairsPerRound() const
     {
-        static constexpr std::array pairs{6, 8, 10, 12, 14, 20};
-        return pairs[std::size_t(layout() - 1)];
+        return std::array{6, 8, 10, 12, 14, 20}[std::size_t(layout() - 1)];
     }
-    [[nodiscard]] std::int64_t layout() const
+    Number layout() const { return std::clamp<Number>(settings[SettingsKeys::AmountCards], 1, 6); }
+    Number rounds() const { return std::max<Number>(settings[SettingsKeys::AmountRounds], 1); }
+    static QString nameOr(const char* substitute, const QString& typed)
     {
-        return std::clamp<std::int64_t>(settings[SettingsKeys::AmountCards], 1, 6);
+        return typed.trimmed().isEmpty() ? localizedText(substitute) : typed.trimmed();
     }
-    [[nodiscard]] std::int64_t rounds() const
+    std::array<QString, 2> names() const
     {
-        return std::max<std::int64_t>(settings[SettingsKeys::AmountRounds], 1);
+        return {nameOr("player_one", playerOneName), nameOr("player_two", playerTwoName)};
     }
-    [[nodiscard]] std::array<QString, 2> names() const
-    {
-        const QString one = playerOneName.trimmed();
-        const QString two = playerTwoName.trimmed();
-        return {one.isEmpty() ? localizedText("player_one") : one,
-                two.isEmpty() ? localizedText("player_two") : two};
-    }
-    [[nodiscard]] QString toMove() const { return names()[std::size_t(currentPlayerIndex)]; }
-
-    [[nodiscard]] bool mayStart() const
+    QString toMove() const { return names()[std::size_t(currentPlayerIndex)]; }
+    bool mayStart() const
     {
         return isVersusMode
                    ? !playerOneName.trimmed().isEmpty() && !playerTwoName.trimmed().isEmpty()
@@ -120,19 +113,18 @@ public:
                             : localizedText("round_of_rounds", {currentRound, rounds()}));
     }
 
-    void loadRound(std::int64_t round)
+    void loadRound(Number round)
     {
         clearAttempt();
         assign(currentRound, round, Member::currentRound);
         updateHeaderForCurrentTurn();
         const int pairs = pairsPerRound();
         const QString deck = deckSetting.trimmed();
-        const QString prefix = u"iPhoto: "_s;
-        const bool isAlbum =
-            deck.startsWith(prefix) && !deck.mid(prefix.size()).trimmed().isEmpty();
+        const bool isAlbum = deck.startsWith(u"iPhoto: "_s);
         const bool isLibrary = deck == u"iPhoto"_s;
         if (isAlbum || isLibrary)
-            alert("iphoto_access_denied", "iphoto_access_denied_info"); // the test's library
+            queue.emplace_back(localizedText("iphoto_access_denied") + u'|' +
+                               localizedText("iphoto_access_denied_info") + u"|OK"_s);
         else if (deck.isEmpty())
             log += "CardDeck ist leer\n";
         else if (!deckSizes.contains(deck))
@@ -210,7 +202,7 @@ public:
         store();
         updateLists();
         const auto [one, two] = playerScores;
-        const auto digits = [](std::int64_t n) { return u"%1"_s.arg(n, 2, 10, QChar(u'0')); };
+        const auto digits = [](Number n) { return u"%1"_s.arg(n, 2, 10, QChar(u'0')); };
         const QString time = digits(elapsedSeconds / 60) + u':' + digits(elapsedSeconds % 60);
         assign(winnerText,
                !isVersusMode
@@ -267,10 +259,10 @@ public:
     {
         using Entry = const HighscoreEntry&;
         const auto best = [this](auto key) {
-            HighscoreEntries kept;
-            std::ranges::copy_if(file, std::back_inserter(kept), [this](Entry entry) {
-                return entry.amountCards == layout() && entry.amountRounds == rounds() &&
-                       entry.gameMode == mode();
+            HighscoreEntries kept = file;
+            std::erase_if(kept, [this](Entry entry) {
+                return entry.amountCards != layout() || entry.amountRounds != rounds() ||
+                       entry.gameMode != mode();
             });
             std::ranges::stable_sort(kept, {}, key);
             kept.resize(std::min<std::size_t>(kept.size(), 10));
@@ -313,10 +305,6 @@ public:
 private:
     void header(const QString& text) { assign(headerText, text, Member::headerText); }
     void turn(bool& side, bool value) { assign(side, value, Member::cards); }
-    void alert(const char* message, const char* information)
-    {
-        queue.emplace_back(localizedText(message) + u'|' + localizedText(information) + u"|OK"_s);
-    }
     void clearAttempt()
     {
         firstSelectedIndex.reset();
@@ -340,21 +328,16 @@ private:
             header(localizedText("player_turn", {toMove()}));
         }
     }
-    [[nodiscard]] QString mode() const { return isVersusMode ? u"versus"_s : u"solo"_s; }
-    [[nodiscard]] QString soloName() const
-    {
-        const QString name = playerName.trimmed();
-        return name.isEmpty() ? localizedText("unknown_player") : name;
-    }
+    QString mode() const { return isVersusMode ? u"versus"_s : u"solo"_s; }
+    QString soloName() const { return nameOr("unknown_player", playerName); }
     void store()
     {
-        HighscoreEntry entry;
-        entry.gameMode = mode();
-        entry.playerName = isVersusMode ? names()[0] : soloName();
-        entry.elapsedSeconds = elapsedSeconds;
-        entry.failedAttempts = failedAttempts;
-        entry.amountCards = layout();
-        entry.amountRounds = rounds();
+        HighscoreEntry entry{.gameMode = mode(),
+                             .playerName = isVersusMode ? names()[0] : soloName(),
+                             .elapsedSeconds = elapsedSeconds,
+                             .failedAttempts = failedAttempts,
+                             .amountCards = layout(),
+                             .amountRounds = rounds()};
         if (isVersusMode) {
             const auto [one, two] = playerScores;
             entry.secondPlayerName = names()[1];
