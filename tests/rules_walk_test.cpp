@@ -380,10 +380,7 @@ private Q_SLOTS:
             QVERIFY2(fault.isEmpty(), qPrintable(u"PAIRCADE_SEED=%1: "_s.arg(seed) + fault));
             seed = QRandomGenerator::global()->generate();
         }
-        QString summary;
-        for (const auto& [what, count] : happened)
-            summary += u"%1 %2, "_s.arg(what).arg(count);
-        qInfo("%s%d steps", qPrintable(summary), walks * stepsOfAWalk);
+        qInfo() << happened << walks * stepsOfAWalk << "steps";
         // Otherwise it would prove little.
         for (const auto& what : {u"won alone"_s, u"won by two"_s, u"another round"_s,
                                  u"no further round"_s, u"not started"_s})

@@ -8,8 +8,6 @@
 
 #include <QHash>
 #include <algorithm>
-#include <deque>
-#include <variant>
 
 using namespace Qt::StringLiterals;
 
@@ -27,8 +25,6 @@ public:
         std::size_t second = 0;
         int missedPlayer = 0;
     };
-    /// What waits in the main queue: an alert, or a turn-back that has fallen due.
-    using Task = std::variant<QString, TurnBack>;
 
     // The surroundings.
     QMap<QString, Number> settings{{SettingsKeys::AmountCards, 1}, {SettingsKeys::AmountRounds, 1}};
@@ -36,9 +32,9 @@ public:
     QHash<QString, int> deckSizes{};
     HighscoreEntries file{};
     HighscoreEntries removed{};
-    std::deque<Task> queue{};
-    std::optional<TurnBack> delayed{};
-    QStringList alerts{};
+    std::optional<TurnBack> delayed{}; ///< Waits for its time.
+    std::optional<TurnBack> due{};     ///< Waits in the main queue.
+    QStringList queuedAlerts{}, alerts{};
     QByteArray log{};
     QList<int> posts{};                ///< What the setting was at each.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
@@ -123,8 +119,8 @@ public:
         const bool isAlbum = deck.startsWith(u"iPhoto: "_s);
         const bool isLibrary = deck == u"iPhoto"_s;
         if (isAlbum || isLibrary)
-            queue.emplace_back(localizedText("iphoto_access_denied") + u'|' +
-                               localizedText("iphoto_access_denied_info") + u"|OK"_s);
+            queuedAlerts << (localizedText("iphoto_access_denied") + u'|' +
+                             localizedText("iphoto_access_denied_info") + u"|OK"_s);
         else if (deck.isEmpty())
             log += "CardDeck ist leer\n";
         else if (!deckSizes.contains(deck))
@@ -139,7 +135,7 @@ public:
             assign(isGameActive, false, Member::isGameActive);
             posts << 0;
             assign(cards, {}, Member::cards);
-            queue.emplace_back(u"Paircade|"_s + message + u"|OK"_s);
+            queuedAlerts << u"Paircade|"_s + message + u"|OK"_s;
             return;
         }
         dealtPairs = pairs;
@@ -240,18 +236,15 @@ public:
     void turnBackFallsDue()
     {
         if (delayed)
-            queue.emplace_back(*std::exchange(delayed, {}));
+            due = std::exchange(delayed, {});
     }
 
     /// The main loop comes round.
     void runQueue()
     {
-        for (; !queue.empty(); queue.pop_front()) {
-            if (const auto* const miss = std::get_if<TurnBack>(&queue.front()))
-                turnBack(*miss);
-            else
-                alerts << std::get<QString>(queue.front());
-        }
+        alerts << std::exchange(queuedAlerts, {});
+        if (due)
+            turnBack(*std::exchange(due, {}));
     }
 
     /// The lists of the current settings and mode, from the file.
@@ -314,7 +307,7 @@ private:
     void withdrawTurnBack()
     {
         delayed.reset();
-        std::erase_if(queue, &std::holds_alternative<TurnBack, QString, TurnBack>);
+        due.reset();
     }
     void turnBack(const TurnBack& miss)
     {
