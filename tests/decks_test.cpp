@@ -91,8 +91,7 @@ QString faultIn(const QByteArray& svg)
     static const QRegularExpression outward(u"url\\(\\s*+['\"]?+(?!#)|\\\\"_s,
                                             QRegularExpression::CaseInsensitiveOption);
     QXmlStreamReader xml(svg);
-    while (!xml.atEnd()) {
-        xml.readNext();
+    for (; !xml.atEnd(); xml.readNext()) {
         if (xml.isDTD() || xml.isProcessingInstruction())
             return xml.tokenString();
         if (!xml.isStartElement())

@@ -30,8 +30,7 @@ public:
     QMap<QString, Number> settings{{SettingsKeys::AmountCards, 1}, {SettingsKeys::AmountRounds, 1}};
     QString deckSetting = u"Cyberpunk"_s;
     QHash<QString, int> deckSizes{};
-    HighscoreEntries file{};
-    HighscoreEntries removed{};
+    HighscoreEntries file{}, removed{};
     std::optional<TurnBack> delayed{}; ///< Waits for its time.
     std::optional<TurnBack> due{};     ///< Waits in the main queue.
     QStringList queuedAlerts{}, alerts{};
