@@ -11,7 +11,6 @@ namespace {
 using Words = QList<quint64>;
 using Numbers = QList<int>;
 
-constexpr quint64 maxWord = UINT64_MAX;
 constexpr quint64 half = quint64{1} << 63;
 
 /// Hands out `words` one by one, then words that no bound rejects; counts them.
@@ -64,12 +63,12 @@ private Q_SLOTS:
         row("3: word 0 has low word 0 and is redrawn", 3, {0, 1}, 0);
         row("3: the last word that gives 0", 3, {0x5555'5555'5555'5555}, 0);
         row("3: the first word that gives 1", 3, {0x5555'5555'5555'5556}, 1);
-        row("3: the highest word gives 2", 3, {maxWord}, 2);
+        row("3: the highest word gives 2", 3, {UINT64_MAX}, 2);
         row("6: low words 0, 2 and 0 again are redrawn", 6,
             {0, 0x2AAA'AAAA'AAAA'AAAB, half, 0x2AAA'AAAA'AAAA'AAAC}, 1);
         row("2: the upper half gives 1", 2, {half}, 1);
         row("2^63 + 1: word 2 has low word 2 and is redrawn", half + 1, {0, 2, 3}, 1);
-        row("2^63 + 1: a low word equal to the rest counts", half + 1, {maxWord}, half);
+        row("2^63 + 1: a low word equal to the rest counts", half + 1, {UINT64_MAX}, half);
     }
 
     void drawsByMultiplyAndReject()

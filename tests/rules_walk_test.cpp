@@ -36,10 +36,8 @@ public:
     {
         m_platform.useResources(m_platform.home.path());
         m_rules.deckFolder = QFile::encodeName(m_platform.home.path()) + "/Cards/";
-        for (const auto& [deck, size] : {std::pair(u"Cyberpunk"_s, 20), {u"Kids"_s, 9}}) {
+        for (const auto& [deck, size] : m_rules.deckSizes.asKeyValueRange())
             makeDeck(m_platform.home.path(), deck, size);
-            m_rules.deckSizes[deck] = size;
-        }
         m_platform.notifications.observe(
             GameStatusChangedNotification, m_platform.defaults.get(),
             [this] { m_posts << int(m_platform.defaults->integer(SettingsKeys::GameIsActive)); });
@@ -51,12 +49,10 @@ public:
     /// Goes `steps` steps, or to the first difference; that is returned, else nothing.
     QString go(int steps)
     {
-        QString fault = compare();
+        QString fault;
         const QByteArray log = outputOf([&] {
-            for (int i = 0; i < steps && fault.isEmpty(); ++i) {
+            for (int i = 0; (fault = compare()).isEmpty() && i < steps; ++i)
                 step();
-                fault = compare();
-            }
         });
         if (fault.isEmpty() && log != m_rules.log)
             fault = u"the log: "_s + QString::fromUtf8(log);
@@ -288,37 +284,35 @@ private:
             else
                 QDebug(&all) << what << "differs\n";
         };
-        const Game& game = *m_game;
-        const Rules& rules = m_rules;
-        same("assignments", m_changes, rules.assignments);
-        same("playerName", game.playerName(), rules.playerName);
-        same("playerNames", game.playerNames(), rules.names());
-        same("canStart", game.canStart(), rules.mayStart());
-        same("headerText", game.headerText(), rules.headerText);
-        same("winnerText", game.winnerText(), rules.winnerText);
-        same("currentRound", game.currentRound(), rules.currentRound);
-        same("elapsedSeconds", game.elapsedSeconds(), rules.elapsedSeconds);
-        same("failedAttempts", game.failedAttempts(), rules.failedAttempts);
-        same("gameCompleted", game.gameCompleted(), rules.gameCompleted);
-        same("isGameActive", game.isGameActive(), rules.isGameActive);
-        same("isVersusMode", game.isVersusMode(), rules.isVersusMode);
-        same("currentPlayerIndex", game.currentPlayerIndex(), rules.currentPlayerIndex);
-        same("playerScores", game.playerScores(), rules.playerScores);
-        same("firstSelectedIndex", game.firstSelectedIndex(), rules.firstSelectedIndex);
-        same("isCheckingPair", game.isCheckingPair(), rules.isCheckingPair);
-        same("timer", game.timer() != nullptr, rules.timer);
-        same("timerStarted", game.timerStarted(), rules.timerStarted);
-        same("delayed steps", int(waitingTimers().size()), int(rules.delayed.has_value()));
-        same("alerts", m_platform.alertLog.shown, rules.alerts);
-        same("canRestoreHighscores", game.canRestoreHighscores(), !rules.removed.empty());
-        same("the grid", game.cardColumns() * game.cardRows(), 2 * rules.pairsPerRound());
-        same("posts", m_posts, rules.posts);
+        same("assignments", m_changes, m_rules.assignments);
+        same("playerName", m_game->playerName(), m_rules.playerName);
+        same("playerNames", m_game->playerNames(), m_rules.names());
+        same("canStart", m_game->canStart(), m_rules.mayStart());
+        same("headerText", m_game->headerText(), m_rules.headerText);
+        same("winnerText", m_game->winnerText(), m_rules.winnerText);
+        same("currentRound", m_game->currentRound(), m_rules.currentRound);
+        same("elapsedSeconds", m_game->elapsedSeconds(), m_rules.elapsedSeconds);
+        same("failedAttempts", m_game->failedAttempts(), m_rules.failedAttempts);
+        same("gameCompleted", m_game->gameCompleted(), m_rules.gameCompleted);
+        same("isGameActive", m_game->isGameActive(), m_rules.isGameActive);
+        same("isVersusMode", m_game->isVersusMode(), m_rules.isVersusMode);
+        same("currentPlayerIndex", m_game->currentPlayerIndex(), m_rules.currentPlayerIndex);
+        same("playerScores", m_game->playerScores(), m_rules.playerScores);
+        same("firstSelectedIndex", m_game->firstSelectedIndex(), m_rules.firstSelectedIndex);
+        same("isCheckingPair", m_game->isCheckingPair(), m_rules.isCheckingPair);
+        same("timer", m_game->timer() != nullptr, m_rules.timer);
+        same("timerStarted", m_game->timerStarted(), m_rules.timerStarted);
+        same("delayed steps", int(waitingTimers().size()), int(m_rules.delayed.has_value()));
+        same("alerts", m_platform.alertLog.shown, m_rules.alerts);
+        same("canRestoreHighscores", m_game->canRestoreHighscores(), !m_rules.removed.empty());
+        same("the grid", m_game->cardColumns() * m_game->cardRows(), 2 * m_rules.pairsPerRound());
+        same("posts", m_posts, m_rules.posts);
         same("dealt well", m_isDealtWell, true);
         const auto sides = [](const MemoryCard& card) {
             return std::tuple(card.id, card.isFaceUp, card.isMatched);
         };
-        same("equality of cards", std::ranges::equal(game.cards(), rules.cards, {}, sides, sides),
-             true);
+        same("equality of cards",
+             std::ranges::equal(m_game->cards(), m_rules.cards, {}, sides, sides), true);
         if (m_changes.empty())
             return all;
         const auto sameRecords = [&](const char* what, HighscoreEntries real,
@@ -327,12 +321,11 @@ private:
                 entry.id = {};
             same(what, encodeHighscores(real), encodeHighscores(rule));
         };
-        sameRecords("bestTimeScores", game.bestTimeScores(), rules.bestTimeScores);
-        sameRecords("bestFailureScores", game.bestFailureScores(), rules.bestFailureScores);
-        sameRecords("bestVersusScores", game.bestVersusScores(), rules.bestVersusScores);
-        sameRecords("the file",
-                    readHighscores(m_platform.highscoreFile()).entries.value_or(HighscoreEntries()),
-                    rules.file);
+        sameRecords("bestTimeScores", m_game->bestTimeScores(), m_rules.bestTimeScores);
+        sameRecords("bestFailureScores", m_game->bestFailureScores(), m_rules.bestFailureScores);
+        sameRecords("bestVersusScores", m_game->bestVersusScores(), m_rules.bestVersusScores);
+        const auto file = readHighscores(m_platform.highscoreFile()).entries;
+        sameRecords("the file", file.value_or(HighscoreEntries()), m_rules.file);
         return all;
     }
 

@@ -6,7 +6,7 @@
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
 
-#include <QHash>
+#include <QMap>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -20,26 +20,19 @@ class ReferenceGame {
 public:
     using Member = MemoryGame::Member;
     using Number = std::int64_t;
-    struct TurnBack {
-        std::size_t first = 0;
-        std::size_t second = 0;
-        int missedPlayer = 0;
-    };
+    using Miss = std::optional<std::pair<std::size_t, std::size_t>>; ///< Places of its cards.
 
-    // The surroundings.
     QMap<QString, Number> settings{{SettingsKeys::AmountCards, 1}, {SettingsKeys::AmountRounds, 1}};
     QString deckSetting = u"Cyberpunk"_s;
-    QHash<QString, int> deckSizes{};
+    QMap<QString, int> deckSizes{{u"Cyberpunk"_s, 20}, {u"Kids"_s, 9}};
     HighscoreEntries file{}, removed{};
-    std::optional<TurnBack> delayed{}; ///< Waits for its time.
-    std::optional<TurnBack> due{};     ///< Waits in the main queue.
+    Miss delayed{}, due{}; ///< Waiting for its time, or in the main queue.
     QStringList queuedAlerts{}, alerts{};
     QByteArray log{};
     QList<int> posts{};                ///< What the setting was at each.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
 
-    // The members of the game.
     QString playerName{}, playerOneName{}, playerTwoName{}, winnerText{};
     QString headerText = localizedText("enter_name");
     HighscoreEntries bestTimeScores{}, bestFailureScores{}, bestVersusScores{};
@@ -56,12 +49,11 @@ public:
     {
         member = value;
         assignments.push_back(name);
+        if (name == Member::isGameActive)
+            posts << int(isGameActive);
     }
 
-    int pairsPerRound() const
-    {
-        return std::array{6, 8, 10, 12, 14, 20}[std::size_t(layout() - 1)];
-    }
+    int pairsPerRound() const { return QList{6, 8, 10, 12, 14, 20}[layout() - 1]; }
     Number layout() const { return std::clamp<Number>(settings[SettingsKeys::AmountCards], 1, 6); }
     Number rounds() const { return std::max<Number>(settings[SettingsKeys::AmountRounds], 1); }
     static QString nameOr(const char* substitute, const QString& typed)
@@ -96,7 +88,6 @@ public:
         assign(playerScores, {0, 0}, Member::playerScores);
         assign(currentPlayerIndex, 0, Member::currentPlayerIndex);
         assign(isGameActive, true, Member::isGameActive);
-        posts << 1;
         clearAttempt();
         updateHeaderForCurrentTurn();
         loadRound(currentRound);
@@ -132,7 +123,6 @@ public:
                             : localizedText("not_enough_images_for_round", {pairs, round});
             header(message);
             assign(isGameActive, false, Member::isGameActive);
-            posts << 0;
             assign(cards, {}, Member::cards);
             queuedAlerts << u"Paircade|"_s + message + u"|OK"_s;
             return;
@@ -162,15 +152,14 @@ public:
         if (cards[first].pairID != card->pairID) {
             isCheckingPair = true;
             assign(failedAttempts, failedAttempts + 1, Member::failedAttempts);
-            delayed = TurnBack{first, position, currentPlayerIndex};
+            delayed = std::pair(first, position);
             return;
         }
         turn(cards[first].isMatched, true);
         turn(cards[position].isMatched, true);
         if (isVersusMode) {
-            auto scores = playerScores;
-            ++scores[std::size_t(currentPlayerIndex)];
-            assign(playerScores, scores, Member::playerScores);
+            ++playerScores[std::size_t(currentPlayerIndex)];
+            assignments.push_back(Member::playerScores);
             header(localizedText("player_found_pair", {toMove()}));
         }
         clearAttempt();
@@ -192,7 +181,6 @@ public:
     {
         assign(gameCompleted, true, Member::gameCompleted);
         assign(isGameActive, false, Member::isGameActive);
-        posts << 0;
         timer = false;
         store();
         updateLists();
@@ -221,7 +209,6 @@ public:
         header(QString());
         clearAttempt();
         assign(isGameActive, false, Member::isGameActive);
-        posts << 0;
     }
 
     /// The clock's timer fires.
@@ -242,19 +229,18 @@ public:
     void runQueue()
     {
         alerts << std::exchange(queuedAlerts, {});
-        if (due)
-            turnBack(*std::exchange(due, {}));
+        turnBack(std::exchange(due, {}));
     }
 
     /// The lists of the current settings and mode, from the file.
     void updateLists()
     {
         using Entry = const HighscoreEntry&;
-        const auto best = [this](auto key) {
+        const auto best = [this](const QString& modeOfList, auto key) {
             HighscoreEntries kept = file;
-            std::erase_if(kept, [this](Entry entry) {
+            std::erase_if(kept, [&](Entry entry) {
                 return entry.amountCards != layout() || entry.amountRounds != rounds() ||
-                       entry.gameMode != mode();
+                       entry.gameMode != mode() || modeOfList != mode();
             });
             std::ranges::stable_sort(kept, {}, key);
             kept.resize(std::min<std::size_t>(kept.size(), 10));
@@ -267,11 +253,9 @@ public:
                              e.elapsedSeconds);
         };
         if (isVersusMode)
-            assign(bestVersusScores, best(lead), Member::bestVersusScores);
-        assign(bestTimeScores, isVersusMode ? HighscoreEntries() : best(time),
-               Member::bestTimeScores);
-        assign(bestFailureScores, isVersusMode ? HighscoreEntries() : best(failures),
-               Member::bestFailureScores);
+            assign(bestVersusScores, best(u"versus"_s, lead), Member::bestVersusScores);
+        assign(bestTimeScores, best(u"solo"_s, time), Member::bestTimeScores);
+        assign(bestFailureScores, best(u"solo"_s, failures), Member::bestFailureScores);
         if (!isVersusMode)
             assign(bestVersusScores, {}, Member::bestVersusScores);
     }
@@ -308,15 +292,17 @@ private:
         delayed.reset();
         due.reset();
     }
-    void turnBack(const TurnBack& miss)
+    void turnBack(const Miss& miss)
     {
-        for (const std::size_t position : {miss.first, miss.second}) {
+        if (!miss)
+            return;
+        for (const std::size_t position : {miss->first, miss->second}) {
             if (position < cards.size())
                 turn(cards[position].isFaceUp, false);
         }
         clearAttempt();
         if (isVersusMode) {
-            assign(currentPlayerIndex, (miss.missedPlayer + 1) % 2, Member::currentPlayerIndex);
+            assign(currentPlayerIndex, (currentPlayerIndex + 1) % 2, Member::currentPlayerIndex);
             header(localizedText("player_turn", {toMove()}));
         }
     }
