@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "highscores/highscore_file.h"
 #include "stage/files.h"
+#include "support/rows.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QTest>
 #include <map>
-#include <memory>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -39,6 +37,18 @@ QByteArray fileAnd(const QByteArray& member)
     return fileWith("2}", "2," + member + '}');
 }
 
+/// What the file is read as by a process that gets no more than `most` of `resource`.
+StoredHighscores readWithin(__rlimit_resource resource, rlim_t most)
+{
+    rlimit before{};
+    ::getrlimit(resource, &before);
+    const rlimit little{most, before.rlim_max};
+    ::setrlimit(resource, &little);
+    StoredHighscores stored = readHighscores(highscoreFile());
+    ::setrlimit(resource, &before);
+    return stored;
+}
+
 } // namespace
 
 /// Else the address sanitizer ends a process that asks for more memory than it gets.
@@ -53,17 +63,13 @@ class HighscoreFileTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_home = std::make_unique<QTemporaryDir>();
+        m_home.emplace();
         qputenv("XDG_DATA_HOME", QFile::encodeName(m_home->filePath(u"not/yet"_s)));
     }
 
     void readsAllOrNothing_data()
     {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<int>("count");
-        const auto row = [](const char* name, const QByteArray& json, int count) {
-            QTest::newRow(name) << json << count;
-        };
+        const Rows<QByteArray, int> row{"json", "count"};
         const QByteArray one = '[' + solo + ']';
         row("empty", "", unreadable);
         row("cut short", one.chopped(1), unreadable);
@@ -75,12 +81,11 @@ private Q_SLOTS:
             unreadable);
         row("nested 100,000 deep", QByteArray(100'000, '[') + QByteArray(100'000, ']'), unreadable);
         row("one empty record among good ones", '[' + solo + ",{}," + solo + ']', unreadable);
-        for (const char* const member : {"id", "gameMode", "playerName", "elapsedSeconds",
-                                         "failedAttempts", "amountCards", "amountRounds"}) {
-            const QByteArray quoted = QByteArray("\"").append(member).append('"');
-            QTest::addRow("without %s", member) << fileWith(quoted, "\"x\"") << unreadable;
-            QTest::addRow("null as %s", member) << fileAnd(quoted + ":null") << unreadable;
-            QTest::addRow("a list as %s", member) << fileAnd(quoted + ":[1]") << unreadable;
+        for (const QByteArray member : {"id", "gameMode", "playerName", "elapsedSeconds",
+                                        "failedAttempts", "amountCards", "amountRounds"}) {
+            row("without " + member, fileWith('"' + member + '"', "\"x\""), unreadable);
+            for (const QByteArray value : {"null", "[1]"})
+                row(value + " as " + member, fileAnd('"' + member + "\":" + value), unreadable);
         }
         row("a truth value as a number", fileWith("67", "true"), unreadable);
         row("an optional name of another type", fileAnd(R"("winnerName":7)"), unreadable);
@@ -113,21 +118,15 @@ private Q_SLOTS:
 
     void numbersAreWholeAndWithin64Bits()
     {
-        const std::map<QByteArray, Number> numbers{
-            {"1.5", {}},
-            {"1e-1", {}},
-            {"9223372036854775808", {}},
-            {"18446744073709551615", {}},
-            {"9223372036854775808.0", {}},
-            {"1e400", {}},
-            {"-9223372036854777856", {}},
-            {"-1e19", {}},
-            {"-0", 0},
-            {"1500e-2", 15},
-            {"9007199254740993", 9007199254740993},
-            {"9223372036854775807", INT64_MAX},
-            {"-9223372036854775808", INT64_MIN},
-        };
+        std::map<QByteArray, Number> numbers{{"-0", 0},
+                                             {"1500e-2", 15},
+                                             {"9007199254740993", 9007199254740993},
+                                             {"9223372036854775807", INT64_MAX},
+                                             {"-9223372036854775808", INT64_MIN}};
+        for (const char* const bad :
+             {"1.5", "1e-1", "9223372036854775808", "18446744073709551615", "9223372036854775808.0",
+              "1e400", "-9223372036854777856", "-1e19"})
+            numbers[bad].reset();
         for (const auto& [json, number] : numbers) {
             const auto required = decodeHighscores(fileWith("67", json));
             const auto optional = decodeHighscores(fileAnd("\"firstPlayerScore\":" + json));
@@ -169,44 +168,40 @@ private Q_SLOTS:
 
     void writesMembersInOrderAndLeavesAbsentOnesOut()
     {
-        HighscoreEntry entry{.id = QUuid(u"{0e984725-c51c-4bf4-9960-e1c80e27aba0}"_s),
-                             .gameMode = u"versus"_s,
-                             .playerName = u"Zoë \"Z\"\n"_s,
-                             .secondPlayerName = u""_s,
-                             .winnerName = u"😀"_s,
-                             .elapsedSeconds = INT64_MAX,
-                             .failedAttempts = INT64_MIN,
-                             .firstPlayerScore = 5,
-                             .secondPlayerScore = 4,
-                             .amountCards = 1,
-                             .amountRounds = 2};
-        // With apostrophes for quotation marks.
-        const QByteArray expected =
-            QByteArray("[\n"
-                       "    {\n"
-                       "        'id': '0E984725-C51C-4BF4-9960-E1C80E27ABA0',\n"
-                       "        'gameMode': 'versus',\n"
-                       "        'playerName': 'Zoë \\'Z\\'\\n',\n"
-                       "        'secondPlayerName': '',\n"
-                       "        'winnerName': '😀',\n"
-                       "        'elapsedSeconds': 9223372036854775807,\n"
-                       "        'failedAttempts': -9223372036854775808,\n"
-                       "        'firstPlayerScore': 5,\n"
-                       "        'secondPlayerScore': 4,\n"
-                       "        'amountCards': 1,\n"
-                       "        'amountRounds': 2\n"
-                       "    }\n"
-                       "]\n")
-                .replace('\'', '"');
+        const HighscoreEntry entry{.id = QUuid(u"{0e984725-c51c-4bf4-9960-e1c80e27aba0}"_s),
+                                   .gameMode = u"versus"_s,
+                                   .playerName = u"Zoë \"Z\"\n"_s,
+                                   .secondPlayerName = u""_s,
+                                   .winnerName = u"😀"_s,
+                                   .elapsedSeconds = INT64_MAX,
+                                   .failedAttempts = INT64_MIN,
+                                   .firstPlayerScore = 5,
+                                   .secondPlayerScore = 4,
+                                   .amountCards = 1,
+                                   .amountRounds = 2};
+        // With apostrophes for escaped quotation marks.
+        const QByteArray expected = QByteArray(R"([
+    {
+        "id": "0E984725-C51C-4BF4-9960-E1C80E27ABA0",
+        "gameMode": "versus",
+        "playerName": "Zoë 'Z'\n",
+        "secondPlayerName": "",
+        "winnerName": "😀",
+        "elapsedSeconds": 9223372036854775807,
+        "failedAttempts": -9223372036854775808,
+        "firstPlayerScore": 5,
+        "secondPlayerScore": 4,
+        "amountCards": 1,
+        "amountRounds": 2
+    }
+]
+)")
+                                        .replace("'", "\\\"");
         QVERIFY(writeHighscores(highscoreFile(), {entry}));
         QCOMPARE(contentsOf(highscoreFile()), expected);
         QCOMPARE(encodeHighscores(*readHighscores(highscoreFile()).entries), expected);
-        entry.secondPlayerName.reset();
-        entry.winnerName.reset();
-        entry.firstPlayerScore.reset();
-        entry.secondPlayerScore.reset();
-        entry.playerName = QChar(0xd83d); // half of a pair, which UTF-8 cannot hold
-        const QByteArray least = encodeHighscores({entry});
+        // Half of a pair, which UTF-8 cannot hold.
+        const QByteArray least = encodeHighscores({{.playerName = QChar(0xd83d)}});
         QCOMPARE(least.count(':'), 7);
         QCOMPARE(decodeHighscores(least)->front().playerName, u"?"_s);
         QCOMPARE(encodeHighscores({}), QByteArray("[]\n"));
@@ -224,8 +219,9 @@ private Q_SLOTS:
 
     void whereNothingCanBeWrittenNothingIs()
     {
-        // In the way stand: a file for the user's folder, one for ours, a folder.
-        for (const QString& file : {u"not"_s, u"not/yet/Paircade"_s}) {
+        // In the way stand: a file for the user's folder, one for ours, a folder for the file.
+        for (const QString& file :
+             {u"not"_s, u"not/yet/Paircade"_s, u"not/yet/Paircade/highscores.json/inside"_s}) {
             init();
             QDir().mkpath(QFileInfo(m_home->filePath(file)).path());
             writeFile(m_home->filePath(file), "mine");
@@ -233,11 +229,6 @@ private Q_SLOTS:
             QVERIFY(!writeHighscores(highscoreFile(), {HighscoreEntry{}}));
             QCOMPARE(contentsOf(m_home->filePath(file)), QByteArray("mine"));
         }
-        init();
-        QDir().mkpath(highscoreFile() + u"/inside"_s);
-        QVERIFY(!readHighscores(highscoreFile()).entries);
-        QVERIFY(!writeHighscores(highscoreFile(), {HighscoreEntry{}}));
-        QVERIFY(QDir(highscoreFile() + u"/inside"_s).exists());
     }
 
     void theFileIsReplacedInOneStep()
@@ -263,28 +254,17 @@ private Q_SLOTS:
         // Half as much as the file is long, and it is no list of results.
         constexpr qint64 length = qint64{300} << 20;
         QVERIFY(QFile::resize(highscoreFile(), length));
-        rlimit before{};
-        ::getrlimit(RLIMIT_AS, &before);
         const auto used = contentsOf(u"/proc/self/statm"_s).split(' ')[0].toULongLong() *
                           static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
-        const rlimit little{used + length / 2, before.rlim_max};
-        ::setrlimit(RLIMIT_AS, &little);
-        const StoredHighscores stored = readHighscores(highscoreFile());
-        ::setrlimit(RLIMIT_AS, &before);
+        const StoredHighscores stored = readWithin(RLIMIT_AS, used + length / 2);
         QVERIFY(stored.mustStay && !stored.entries);
         QVERIFY(!readHighscores(highscoreFile()).mustStay);
-
         QVERIFY(readHighscores(u"/proc/self/mem"_s).mustStay); // can be opened, not read
-        ::getrlimit(RLIMIT_NOFILE, &before);
-        const rlimit none{0, before.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &none);
-        const bool mustStay = readHighscores(highscoreFile()).mustStay;
-        ::setrlimit(RLIMIT_NOFILE, &before);
-        QVERIFY(mustStay);
+        QVERIFY(readWithin(RLIMIT_NOFILE, 0).mustStay);
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_home{};
+    std::optional<QTemporaryDir> m_home{};
 };
 
 QTEST_GUILESS_MAIN(HighscoreFileTest)

@@ -17,7 +17,7 @@ class MainQueueTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_queue = std::make_unique<MainQueue>();
+        m_queue.emplace();
         m_log.clear();
     }
 
@@ -57,9 +57,8 @@ private Q_SLOTS:
             note("second ends")();
         });
         m_queue->async(note("third"));
-        QTRY_COMPARE(
-            m_log,
-            QByteArray("first ends, second ends, third, queued by the first, due meanwhile"));
+        QTRY_COMPARE(m_log, QByteArray("first ends, second ends, third, queued by the first, "
+                                       "due meanwhile"));
     }
 
     void aWithdrawnTaskNeverRuns()
@@ -92,12 +91,11 @@ private Q_SLOTS:
 
     void aTaskMayComeFromAnyThread()
     {
-        MainQueue queue;
         int onMainThread = 0;
         const auto* const here = QThread::currentThread();
         std::thread([&] {
             for (int i = 0; i < 100; ++i)
-                queue.async([&] { onMainThread += QThread::currentThread() == here ? 1 : 0; });
+                m_queue->async([&] { onMainThread += QThread::currentThread() == here ? 1 : 0; });
         }).join();
         QTRY_COMPARE(onMainThread, 100);
     }
@@ -108,7 +106,7 @@ private:
         return [this, text] { m_log += m_log.isEmpty() ? text : ", " + text; };
     }
 
-    std::unique_ptr<MainQueue> m_queue{};
+    std::optional<MainQueue> m_queue{};
     QByteArray m_log{};
 };
 

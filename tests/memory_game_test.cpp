@@ -10,7 +10,6 @@
 
 #include <QElapsedTimer>
 #include <QTest>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -20,17 +19,12 @@ class MemoryGameTest : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_platform = std::make_unique<StagePlatform>();
+        m_game.reset(); // which ends before its platform
+        m_platform.emplace();
         m_platform->useResources(m_platform->home.path());
         makeDeck(m_platform->home.path(), u"Cyberpunk"_s, 20);
-        m_game = std::make_unique<MemoryGame>();
+        m_game.emplace();
         m_game->setPlayerName(u"Ann"_s);
-    }
-
-    void cleanup()
-    {
-        m_game.reset();
-        m_platform.reset();
     }
 
     void theFirstTapStartsTheClock()
@@ -86,7 +80,7 @@ private Q_SLOTS:
     {
         blockHighscoreFile();
         QList<std::size_t> listSizes;
-        connect(m_game.get(), &MemoryGame::changed, m_game.get(), [&](MemoryGame::Member member) {
+        connect(&*m_game, &MemoryGame::changed, &*m_game, [&](MemoryGame::Member member) {
             if (member == MemoryGame::Member::bestTimeScores)
                 listSizes << m_game->bestTimeScores().size();
         });
@@ -124,8 +118,7 @@ private Q_SLOTS:
         QVERIFY2(log.startsWith("Fehler beim Zurücksetzen der Highscores: "), log.constData());
         QCOMPARE(log.count('\n'), 1);
         QVERIFY(m_game->bestTimeScores().empty() && m_game->bestFailureScores().empty());
-        QVERIFY(QFile::exists(m_platform->highscoreFile()));
-        QVERIFY(!m_game->canRestoreHighscores());
+        QVERIFY(QFile::exists(m_platform->highscoreFile()) && !m_game->canRestoreHighscores());
     }
 
     void aResetKeepsNothingThatItCouldNotRead()
@@ -135,8 +128,8 @@ private Q_SLOTS:
             m_game->resetHighscores();
             QVERIFY2(!QFile::exists(m_platform->highscoreFile()), contents);
             QVERIFY2(!m_game->canRestoreHighscores(), contents);
-            QCOMPARE(outputOf([this] { m_game->resetHighscores(); }),
-                     QByteArray()); // nothing there
+            const QByteArray logWithoutAFile = outputOf([this] { m_game->resetHighscores(); });
+            QCOMPARE(logWithoutAFile, QByteArray());
         }
     }
 
@@ -150,14 +143,10 @@ private:
     }
 
     /// A folder in the file's place can be neither read nor replaced.
-    void blockHighscoreFile()
-    {
-        if (!QDir().mkpath(m_platform->highscoreFile() + u"/inside"_s))
-            qFatal("the test cannot make its folder");
-    }
+    void blockHighscoreFile() { QDir().mkpath(m_platform->highscoreFile() + u"/inside"_s); }
 
-    std::unique_ptr<StagePlatform> m_platform{};
-    std::unique_ptr<MemoryGame> m_game{};
+    std::optional<StagePlatform> m_platform{};
+    std::optional<MemoryGame> m_game{};
 };
 
 QTEST_GUILESS_MAIN(MemoryGameTest)

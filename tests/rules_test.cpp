@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "game/rules/card_layout.h"
 #include "game/rules/shuffle.h"
+#include "support/rows.h"
 
-#include <QTest>
 #include <map>
 
 namespace {
@@ -11,7 +11,6 @@ namespace {
 using Words = QList<quint64>;
 using Numbers = QList<int>;
 
-constexpr quint64 maxWord = UINT64_MAX;
 constexpr quint64 half = quint64{1} << 63;
 
 /// Hands out `words` one by one, then words that no bound rejects; counts them.
@@ -28,12 +27,7 @@ class RulesTest : public QObject {
 private Q_SLOTS:
     void boardAndWindowOfAmountCards_data()
     {
-        QTest::addColumn<qint64>("amountCards");
-        QTest::addColumn<Numbers>("board"); // columns, rows, pairs
-        QTest::addColumn<Numbers>("window");
-        const auto row = [](const char* name, qint64 amount, Numbers board, Numbers window) {
-            QTest::newRow(name) << amount << board << window;
-        };
+        const Rows<qint64, Numbers, Numbers> row{"amountCards", "columns, rows, pairs", "window"};
         row("wraps to 3 when narrowed too early", -4'294'967'293, {4, 3, 6}, {1100, 700});
         row("missing setting reads 0", 0, {4, 3, 6}, {1100, 700});
         row("1", 1, {4, 3, 6}, {1100, 700});
@@ -51,36 +45,30 @@ private Q_SLOTS:
         QFETCH(const qint64, amountCards);
         const CardLayout& board = cardLayout(amountCards);
         const CardLayout& window = windowLayout(amountCards);
-        QTEST((Numbers{board.columns, board.rows, board.pairs()}), "board");
+        QTEST((Numbers{board.columns, board.rows, board.pairs()}), "columns, rows, pairs");
         QTEST((Numbers{window.windowWidth, window.windowHeight}), "window");
     }
 
     void aGameHasAtLeastOneRound()
     {
-        QCOMPARE(roundCount(INT64_MIN), 1);
-        QCOMPARE(roundCount(0), 1);
-        QCOMPARE(roundCount(INT64_MAX), INT64_MAX);
+        const QList counts{roundCount(INT64_MIN), roundCount(0), roundCount(INT64_MAX)};
+        QCOMPARE(counts, (QList<std::int64_t>{1, 1, INT64_MAX}));
     }
 
     // The rest that is rejected is 2^64 mod bound: 1 for 3, 4 for 6, 2^63 - 1
     // for 2^63 + 1.
     void drawsByMultiplyAndReject_data()
     {
-        QTest::addColumn<quint64>("bound");
-        QTest::addColumn<Words>("words");
-        QTest::addColumn<quint64>("draw");
-        const auto row = [](const char* name, quint64 bound, Words words, quint64 draw) {
-            QTest::newRow(name) << bound << words << draw;
-        };
+        const Rows<quint64, Words, quint64> row{"bound", "words", "draw"};
         row("3: word 0 has low word 0 and is redrawn", 3, {0, 1}, 0);
         row("3: the last word that gives 0", 3, {0x5555'5555'5555'5555}, 0);
         row("3: the first word that gives 1", 3, {0x5555'5555'5555'5556}, 1);
-        row("3: the highest word gives 2", 3, {maxWord}, 2);
+        row("3: the highest word gives 2", 3, {UINT64_MAX}, 2);
         row("6: low words 0, 2 and 0 again are redrawn", 6,
             {0, 0x2AAA'AAAA'AAAA'AAAB, half, 0x2AAA'AAAA'AAAA'AAAC}, 1);
         row("2: the upper half gives 1", 2, {half}, 1);
         row("2^63 + 1: word 2 has low word 2 and is redrawn", half + 1, {0, 2, 3}, 1);
-        row("2^63 + 1: a low word equal to the rest counts", half + 1, {maxWord}, half);
+        row("2^63 + 1: a low word equal to the rest counts", half + 1, {UINT64_MAX}, half);
     }
 
     void drawsByMultiplyAndReject()
@@ -94,13 +82,7 @@ private Q_SLOTS:
 
     void shufflesFromTheFront_data()
     {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<Words>("words");
-        QTest::addColumn<QString>("after");
-        const auto row = [](const char* name, const char* before, Words words, const char* after) {
-            QTest::newRow(name) << QString::fromLatin1(before) << words
-                                << QString::fromLatin1(after);
-        };
+        const Rows<QByteArray, Words, QByteArray> row{"before", "words", "after"};
         row("nothing draws nothing", "", {}, "");
         row("two stay", "AB", {0}, "AB");
         // Of 4: 1, so A and B swap, BACD. Of 3: 1, BCAD. Of 2: 1, BCDA.
@@ -112,7 +94,7 @@ private Q_SLOTS:
 
     void shufflesFromTheFront()
     {
-        QFETCH(QString, before);
+        QFETCH(QByteArray, before);
         QFETCH(const Words, words);
         qsizetype taken = 0;
         shuffle(before, scripted(words, taken));
@@ -123,9 +105,9 @@ private Q_SLOTS:
     void everyOrderIsEquallyLikely()
     {
         constexpr int shuffles = 48'000;
-        std::map<QString, int> counts;
+        std::map<QByteArray, int> counts;
         for (int i = 0; i < shuffles; ++i) {
-            QString list = QStringLiteral("ABCD");
+            QByteArray list = "ABCD";
             shuffle(list);
             ++counts[list];
         }

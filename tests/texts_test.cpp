@@ -5,20 +5,20 @@
 #include "stage/files.h"
 
 #include <QCoreApplication>
-#include <QDir>
+#include <QDirIterator>
+#include <QMap>
 #include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
 #include <map>
-#include <set>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /// The texts that the game cannot do without, and the places in them.
-const std::map<QString, QString> catalogue = [] {
-    std::map<QString, QString> keys;
+const QMap<QString, QString> catalogue = [] {
+    QMap<QString, QString> keys;
     const auto add = [&keys](const char* places, const char* names) {
         for (const QString& name : QString::fromLatin1(names).split(u' '))
             keys[name] = QString::fromLatin1(places);
@@ -44,23 +44,12 @@ const std::map<QString, QString> catalogue = [] {
 /// The numbers of the places in `text`, each once, in order.
 QString placesIn(const QString& text)
 {
-    std::set<QString> places;
-    static const QRegularExpression place(u"%(\\d)"_s);
-    for (const auto& match : place.globalMatch(text))
-        places.insert(match.captured(1));
-    return QStringList(places.begin(), places.end()).join(QString());
-}
-
-/// The ids in a catalogue, each with whether it has a form for every number.
-std::map<QString, bool> idsIn(const QString& catalogueSource)
-{
-    std::map<QString, bool> ids;
-    for (QXmlStreamReader xml(contentsOf(catalogueSource)); !xml.atEnd(); xml.readNext()) {
-        if (xml.name() == u"message" && xml.isStartElement())
-            ids[xml.attributes().value(u"id"_s).toString()] =
-                xml.attributes().hasAttribute(u"numerus"_s);
+    QString places;
+    for (const QChar digit : u"0123456789"_s) {
+        if (text.contains(u'%' + digit))
+            places += digit;
     }
-    return ids;
+    return places;
 }
 
 } // namespace
@@ -75,14 +64,18 @@ private Q_SLOTS:
         const QDir sources(QStringLiteral(PAIRCADE_SOURCE_DIR "/resources/translations"));
         for (const QString& source : sources.entryList({u"*.ts"_s})) {
             const QString language = source.section(u'_', 1).chopped(3);
-            const std::map<QString, bool> ids = idsIn(sources.filePath(source));
             QTranslator translator;
             QVERIFY2(translator.load(m_folder + u"/paircade_"_s + language + u".qm"_s),
                      qPrintable(language));
-            for (const auto& [id, isCounted] : ids) {
+            for (QXmlStreamReader xml(contentsOf(sources.filePath(source))); !xml.atEnd();
+                 xml.readNext()) {
+                if (xml.name() != u"message" || !xml.isStartElement())
+                    continue;
+                const QString id = xml.attributes().value(u"id"_s).toString();
                 const QByteArray key = id.toUtf8();
                 m_texts[language][id] = translator.translate("", key);
                 // Numbers that ask for each form that a language can have.
+                const bool isCounted = xml.attributes().hasAttribute(u"numerus"_s);
                 for (const int count : isCounted ? QList{0, 1, 2, 5, 11, 21, 22} : QList{-1})
                     m_forms[language].emplace(id, translator.translate("", key, nullptr, count));
             }
@@ -92,14 +85,11 @@ private Q_SLOTS:
 
     void everyLanguageHasEveryText()
     {
-        QStringList needed;
-        for (const auto& [id, places] : catalogue)
-            needed << id;
-        const QDir decks(QStringLiteral(PAIRCADE_SOURCE_DIR "/resources/Cards"));
-        for (const QString& deck : decks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            for (const QString& picture : QDir(decks.filePath(deck)).entryList({u"*.svg"_s}))
-                needed << u"card_"_s + picture.chopped(4);
-        }
+        QStringList needed = catalogue.keys();
+        const QString decks = QStringLiteral(PAIRCADE_SOURCE_DIR "/resources/Cards");
+        for (QDirIterator deck(decks, {u"*.svg"_s}, QDir::Files, QDirIterator::Subdirectories);
+             deck.hasNext();)
+            needed << u"card_"_s + deck.nextFileInfo().baseName();
         QVERIFY(needed.size() > 100);
         for (const auto& [language, texts] : m_texts) {
             for (const QString& id : needed)
@@ -115,11 +105,9 @@ private Q_SLOTS:
     {
         for (const auto& [language, forms] : m_forms) {
             for (const auto& [id, text] : forms) {
-                const auto known = catalogue.find(id);
-                const QString expected =
-                    known == catalogue.end() ? placesIn(m_texts[u"en"_s][id]) : known->second;
-                QVERIFY2(placesIn(text) == expected, qPrintable(language + u": "_s + id));
-                QVERIFY2(!text.contains(u'&'), qPrintable(language + u": "_s + id));
+                const QString expected = catalogue.value(id, placesIn(m_texts[u"en"_s][id]));
+                QVERIFY2(placesIn(text) == expected && !text.contains(u'&'),
+                         qPrintable(language + u": "_s + id));
             }
         }
     }
@@ -133,10 +121,10 @@ private Q_SLOTS:
                     continue;
                 const QByteArray label = (language + u": "_s + id).toUtf8();
                 QVERIFY2(letter.size() == 1 && letter[0].isLetterOrNumber(), label);
-                const QString& text = texts[id.sliced(prefix.size())];
                 // A text that is not in the keyboard's script gets its letter after it.
                 static const QRegularExpression ideographs(
                     u"[\\p{Han}\\p{Hiragana}\\p{Katakana}]"_s);
+                const QString& text = texts[id.sliced(prefix.size())];
                 QVERIFY2(text.contains(letter) || text.contains(ideographs), label);
             }
         }

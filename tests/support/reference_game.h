@@ -6,10 +6,8 @@
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
 
-#include <QHash>
+#include <QMap>
 #include <algorithm>
-#include <deque>
-#include <variant>
 
 using namespace Qt::StringLiterals;
 
@@ -21,38 +19,28 @@ using namespace Qt::StringLiterals;
 class ReferenceGame {
 public:
     using Member = MemoryGame::Member;
-    struct TurnBack {
-        std::size_t first = 0;
-        std::size_t second = 0;
-        int missedPlayer = 0;
-    };
-    /// What waits in the main queue: an alert, or a turn-back that has fallen due.
-    using Task = std::variant<QString, TurnBack>;
+    using Number = std::int64_t;
+    using Miss = std::optional<std::pair<std::size_t, std::size_t>>; ///< Places of its cards.
 
-    // The surroundings.
-    QMap<QString, std::int64_t> settings{{SettingsKeys::AmountCards, 1},
-                                         {SettingsKeys::AmountRounds, 1}};
+    QMap<QString, Number> settings{{SettingsKeys::AmountCards, 1}, {SettingsKeys::AmountRounds, 1}};
     QString deckSetting = u"Cyberpunk"_s;
-    QHash<QString, int> deckSizes{};
-    HighscoreEntries file{};
-    HighscoreEntries removed{};
-    std::deque<Task> queue{};
-    std::optional<TurnBack> delayed{};
-    QStringList alerts{};
+    QMap<QString, int> deckSizes{{u"Cyberpunk"_s, 20}, {u"Kids"_s, 9}};
+    HighscoreEntries file{}, removed{};
+    Miss delayed{}, due{}; ///< Waiting for its time, or in the main queue.
+    QStringList queuedAlerts{}, alerts{};
     QByteArray log{};
     QList<int> posts{};                ///< What the setting was at each.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
 
-    // The members of the game.
     QString playerName{}, playerOneName{}, playerTwoName{}, winnerText{};
     QString headerText = localizedText("enter_name");
     HighscoreEntries bestTimeScores{}, bestFailureScores{}, bestVersusScores{};
     MemoryCards cards{};
-    std::int64_t currentRound = 1, elapsedSeconds = 0, failedAttempts = 0;
+    Number currentRound = 1, elapsedSeconds = 0, failedAttempts = 0;
     bool gameCompleted = false, isGameActive = false, isVersusMode = false;
     int currentPlayerIndex = 0;
-    std::array<std::int64_t, 2> playerScores{0, 0};
+    std::array<Number, 2> playerScores{0, 0};
     std::optional<std::size_t> firstSelectedIndex{};
     bool isCheckingPair = false, timer = false, timerStarted = false;
 
@@ -61,31 +49,23 @@ public:
     {
         member = value;
         assignments.push_back(name);
+        if (name == Member::isGameActive)
+            posts << int(isGameActive);
     }
 
-    [[nodiscard]] int pairsPerRound() const
+    int pairsPerRound() const { return QList{6, 8, 10, 12, 14, 20}[layout() - 1]; }
+    Number layout() const { return std::clamp<Number>(settings[SettingsKeys::AmountCards], 1, 6); }
+    Number rounds() const { return std::max<Number>(settings[SettingsKeys::AmountRounds], 1); }
+    static QString nameOr(const char* substitute, const QString& typed)
     {
-        static constexpr std::array pairs{6, 8, 10, 12, 14, 20};
-        return pairs[std::size_t(layout() - 1)];
+        return typed.trimmed().isEmpty() ? localizedText(substitute) : typed.trimmed();
     }
-    [[nodiscard]] std::int64_t layout() const
+    std::array<QString, 2> names() const
     {
-        return std::clamp<std::int64_t>(settings[SettingsKeys::AmountCards], 1, 6);
+        return {nameOr("player_one", playerOneName), nameOr("player_two", playerTwoName)};
     }
-    [[nodiscard]] std::int64_t rounds() const
-    {
-        return std::max<std::int64_t>(settings[SettingsKeys::AmountRounds], 1);
-    }
-    [[nodiscard]] std::array<QString, 2> names() const
-    {
-        const QString one = playerOneName.trimmed();
-        const QString two = playerTwoName.trimmed();
-        return {one.isEmpty() ? localizedText("player_one") : one,
-                two.isEmpty() ? localizedText("player_two") : two};
-    }
-    [[nodiscard]] QString toMove() const { return names()[std::size_t(currentPlayerIndex)]; }
-
-    [[nodiscard]] bool mayStart() const
+    QString toMove() const { return names()[std::size_t(currentPlayerIndex)]; }
+    bool mayStart() const
     {
         return isVersusMode
                    ? !playerOneName.trimmed().isEmpty() && !playerTwoName.trimmed().isEmpty()
@@ -108,7 +88,6 @@ public:
         assign(playerScores, {0, 0}, Member::playerScores);
         assign(currentPlayerIndex, 0, Member::currentPlayerIndex);
         assign(isGameActive, true, Member::isGameActive);
-        posts << 1;
         clearAttempt();
         updateHeaderForCurrentTurn();
         loadRound(currentRound);
@@ -120,19 +99,18 @@ public:
                             : localizedText("round_of_rounds", {currentRound, rounds()}));
     }
 
-    void loadRound(std::int64_t round)
+    void loadRound(Number round)
     {
         clearAttempt();
         assign(currentRound, round, Member::currentRound);
         updateHeaderForCurrentTurn();
         const int pairs = pairsPerRound();
         const QString deck = deckSetting.trimmed();
-        const QString prefix = u"iPhoto: "_s;
-        const bool isAlbum =
-            deck.startsWith(prefix) && !deck.mid(prefix.size()).trimmed().isEmpty();
+        const bool isAlbum = deck.startsWith(u"iPhoto: "_s);
         const bool isLibrary = deck == u"iPhoto"_s;
         if (isAlbum || isLibrary)
-            alert("iphoto_access_denied", "iphoto_access_denied_info"); // the test's library
+            queuedAlerts << (localizedText("iphoto_access_denied") + u'|' +
+                             localizedText("iphoto_access_denied_info") + u"|OK"_s);
         else if (deck.isEmpty())
             log += "CardDeck ist leer\n";
         else if (!deckSizes.contains(deck))
@@ -145,9 +123,8 @@ public:
                             : localizedText("not_enough_images_for_round", {pairs, round});
             header(message);
             assign(isGameActive, false, Member::isGameActive);
-            posts << 0;
             assign(cards, {}, Member::cards);
-            queue.emplace_back(u"Paircade|"_s + message + u"|OK"_s);
+            queuedAlerts << u"Paircade|"_s + message + u"|OK"_s;
             return;
         }
         dealtPairs = pairs;
@@ -175,15 +152,14 @@ public:
         if (cards[first].pairID != card->pairID) {
             isCheckingPair = true;
             assign(failedAttempts, failedAttempts + 1, Member::failedAttempts);
-            delayed = TurnBack{first, position, currentPlayerIndex};
+            delayed = std::pair(first, position);
             return;
         }
         turn(cards[first].isMatched, true);
         turn(cards[position].isMatched, true);
         if (isVersusMode) {
-            auto scores = playerScores;
-            ++scores[std::size_t(currentPlayerIndex)];
-            assign(playerScores, scores, Member::playerScores);
+            ++playerScores[std::size_t(currentPlayerIndex)];
+            assignments.push_back(Member::playerScores);
             header(localizedText("player_found_pair", {toMove()}));
         }
         clearAttempt();
@@ -205,12 +181,11 @@ public:
     {
         assign(gameCompleted, true, Member::gameCompleted);
         assign(isGameActive, false, Member::isGameActive);
-        posts << 0;
         timer = false;
         store();
         updateLists();
         const auto [one, two] = playerScores;
-        const auto digits = [](std::int64_t n) { return u"%1"_s.arg(n, 2, 10, QChar(u'0')); };
+        const auto digits = [](Number n) { return u"%1"_s.arg(n, 2, 10, QChar(u'0')); };
         const QString time = digits(elapsedSeconds / 60) + u':' + digits(elapsedSeconds % 60);
         assign(winnerText,
                !isVersusMode
@@ -234,7 +209,6 @@ public:
         header(QString());
         clearAttempt();
         assign(isGameActive, false, Member::isGameActive);
-        posts << 0;
     }
 
     /// The clock's timer fires.
@@ -248,29 +222,25 @@ public:
     void turnBackFallsDue()
     {
         if (delayed)
-            queue.emplace_back(*std::exchange(delayed, {}));
+            due = std::exchange(delayed, {});
     }
 
     /// The main loop comes round.
     void runQueue()
     {
-        for (; !queue.empty(); queue.pop_front()) {
-            if (const auto* const miss = std::get_if<TurnBack>(&queue.front()))
-                turnBack(*miss);
-            else
-                alerts << std::get<QString>(queue.front());
-        }
+        alerts << std::exchange(queuedAlerts, {});
+        turnBack(std::exchange(due, {}));
     }
 
     /// The lists of the current settings and mode, from the file.
     void updateLists()
     {
         using Entry = const HighscoreEntry&;
-        const auto best = [this](auto key) {
-            HighscoreEntries kept;
-            std::ranges::copy_if(file, std::back_inserter(kept), [this](Entry entry) {
-                return entry.amountCards == layout() && entry.amountRounds == rounds() &&
-                       entry.gameMode == mode();
+        const auto best = [this](const QString& modeOfList, auto key) {
+            HighscoreEntries kept = file;
+            std::erase_if(kept, [&](Entry entry) {
+                return entry.amountCards != layout() || entry.amountRounds != rounds() ||
+                       entry.gameMode != mode() || modeOfList != mode();
             });
             std::ranges::stable_sort(kept, {}, key);
             kept.resize(std::min<std::size_t>(kept.size(), 10));
@@ -283,11 +253,9 @@ public:
                              e.elapsedSeconds);
         };
         if (isVersusMode)
-            assign(bestVersusScores, best(lead), Member::bestVersusScores);
-        assign(bestTimeScores, isVersusMode ? HighscoreEntries() : best(time),
-               Member::bestTimeScores);
-        assign(bestFailureScores, isVersusMode ? HighscoreEntries() : best(failures),
-               Member::bestFailureScores);
+            assign(bestVersusScores, best(u"versus"_s, lead), Member::bestVersusScores);
+        assign(bestTimeScores, best(u"solo"_s, time), Member::bestTimeScores);
+        assign(bestFailureScores, best(u"solo"_s, failures), Member::bestFailureScores);
         if (!isVersusMode)
             assign(bestVersusScores, {}, Member::bestVersusScores);
     }
@@ -313,10 +281,6 @@ public:
 private:
     void header(const QString& text) { assign(headerText, text, Member::headerText); }
     void turn(bool& side, bool value) { assign(side, value, Member::cards); }
-    void alert(const char* message, const char* information)
-    {
-        queue.emplace_back(localizedText(message) + u'|' + localizedText(information) + u"|OK"_s);
-    }
     void clearAttempt()
     {
         firstSelectedIndex.reset();
@@ -326,35 +290,32 @@ private:
     void withdrawTurnBack()
     {
         delayed.reset();
-        std::erase_if(queue, &std::holds_alternative<TurnBack, QString, TurnBack>);
+        due.reset();
     }
-    void turnBack(const TurnBack& miss)
+    void turnBack(const Miss& miss)
     {
-        for (const std::size_t position : {miss.first, miss.second}) {
+        if (!miss)
+            return;
+        for (const std::size_t position : {miss->first, miss->second}) {
             if (position < cards.size())
                 turn(cards[position].isFaceUp, false);
         }
         clearAttempt();
         if (isVersusMode) {
-            assign(currentPlayerIndex, (miss.missedPlayer + 1) % 2, Member::currentPlayerIndex);
+            assign(currentPlayerIndex, (currentPlayerIndex + 1) % 2, Member::currentPlayerIndex);
             header(localizedText("player_turn", {toMove()}));
         }
     }
-    [[nodiscard]] QString mode() const { return isVersusMode ? u"versus"_s : u"solo"_s; }
-    [[nodiscard]] QString soloName() const
-    {
-        const QString name = playerName.trimmed();
-        return name.isEmpty() ? localizedText("unknown_player") : name;
-    }
+    QString mode() const { return isVersusMode ? u"versus"_s : u"solo"_s; }
+    QString soloName() const { return nameOr("unknown_player", playerName); }
     void store()
     {
-        HighscoreEntry entry;
-        entry.gameMode = mode();
-        entry.playerName = isVersusMode ? names()[0] : soloName();
-        entry.elapsedSeconds = elapsedSeconds;
-        entry.failedAttempts = failedAttempts;
-        entry.amountCards = layout();
-        entry.amountRounds = rounds();
+        HighscoreEntry entry{.gameMode = mode(),
+                             .playerName = isVersusMode ? names()[0] : soloName(),
+                             .elapsedSeconds = elapsedSeconds,
+                             .failedAttempts = failedAttempts,
+                             .amountCards = layout(),
+                             .amountRounds = rounds()};
         if (isVersusMode) {
             const auto [one, two] = playerScores;
             entry.secondPlayerName = names()[1];
