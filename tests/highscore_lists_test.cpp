@@ -18,18 +18,28 @@ constexpr std::size_t limit = 10;
 /// A record that the test tells apart by its name.
 HighscoreEntry solo(const char* name, std::int64_t time, std::int64_t failures)
 {
-    return {{}, soloMode, QString::fromLatin1(name), {}, {}, time, failures};
+    return {.playerName = QString::fromLatin1(name),
+            .elapsedSeconds = time,
+            .failedAttempts = failures};
 }
 
 HighscoreEntry versus(const char* name, Score first, Score second, std::int64_t time)
 {
-    return {{}, versusMode, QString::fromLatin1(name), {}, {}, time, 0, first, second};
+    return {.playerName = QString::fromLatin1(name),
+            .elapsedSeconds = time,
+            .firstPlayerScore = first,
+            .secondPlayerScore = second};
 }
 
 HighscoreEntry played(const char* name, QLatin1String mode, std::int64_t cards, std::int64_t rounds,
                       std::int64_t time = 0, std::int64_t failures = 0)
 {
-    return {{}, mode, QString::fromLatin1(name), {}, {}, time, failures, {}, {}, cards, rounds};
+    return {.gameMode = mode,
+            .playerName = QString::fromLatin1(name),
+            .elapsedSeconds = time,
+            .failedAttempts = failures,
+            .amountCards = cards,
+            .amountRounds = rounds};
 }
 
 QByteArray namesOf(const HighscoreEntries& entries)
