@@ -162,7 +162,7 @@ private Q_SLOTS:
         const QByteArray earlier = contentsOf(m_report);
         QVERIFY(!earlier.isEmpty());
         {
-            const FullDisk disk(1000);
+            const Limit disk(RLIMIT_FSIZE, 1000);
             game.openHighscoresHTML();
         }
         QCOMPARE(contentsOf(m_report), earlier);
