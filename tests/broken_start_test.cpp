@@ -4,11 +4,9 @@
 #include "stage/files.h"
 #include "support/broken_world.h"
 #include "support/program.h"
+#include "support/rows.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -18,11 +16,8 @@ class BrokenStartTest : public QObject {
 private Q_SLOTS:
     void theProgramStartsAndEnds_data()
     {
-        QTest::addColumn<QString>("breakIt");   // shell, in the home
-        QTest::addColumn<QStringList>("stays"); // what is there then and must not change
-        const auto row = [](const char* name, const char* breakIt, const QStringList& stays) {
-            QTest::newRow(name) << QString::fromLatin1(breakIt) << stays;
-        };
+        // Shell, in the home; then what is there and must not change.
+        const Rows<QByteArray, QStringList> row{"breakIt", "stays"};
         const QString settings = u"config/Paircade/Paircade.conf"_s;
         const QString results = u"data/Paircade/highscores.json"_s;
         const QString lock = u"data/Paircade/lock"_s;
@@ -61,19 +56,17 @@ private Q_SLOTS:
 
     void theProgramStartsAndEnds()
     {
-        QFETCH(const QString, breakIt);
+        QFETCH(const QByteArray, breakIt);
         QFETCH(const QStringList, stays);
         const QTemporaryDir home;
         QProcess shell;
         shell.setWorkingDirectory(home.path());
-        const QString bin = QCoreApplication::applicationDirPath();
-        shell.start(u"sh"_s, {u"-ec"_s,
-                              u"mkdir -p bin config/Paircade data/Paircade; mkdir -m 700 runtime;"
-                              "cp \"$0\"/paircade bin; cp -r \"$0\"/../share .;"
-                              "printf '[General]\\nKept=1\\n' >config/Paircade/Paircade.conf;"
-                              "echo '[]' >data/Paircade/highscores.json;"_s +
-                                  breakIt,
-                              bin});
+        const QString script = u"mkdir -p bin config/Paircade data/Paircade; mkdir -m 700 runtime;"
+                               "cp \"$0\"/paircade bin; cp -r \"$0\"/../share .;"
+                               "printf '[General]\\nKept=1\\n' >config/Paircade/Paircade.conf;"
+                               "echo '[]' >data/Paircade/highscores.json;"_s +
+                               QString::fromLatin1(breakIt);
+        shell.start(u"sh"_s, {u"-ec"_s, script, QCoreApplication::applicationDirPath()});
         QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
 
         const AsNobody nobody(home.path());
@@ -90,8 +83,7 @@ private Q_SLOTS:
         const QString log = QFile::symLinkTarget(u"/proc/%1/fd/1"_s.arg(game.process.processId()));
         game.signal(SIGTERM);
         const bool isOver = game.endsWell();
-        QCOMPARE(game.process.readAllStandardError(), QByteArray());
-        QCOMPARE(game.process.readAllStandardOutput(), QByteArray());
+        QCOMPARE(game.process.readAllStandardError() + game.process.readAllStandardOutput(), "");
         QVERIFY2(!log.isEmpty() && !log.startsWith(home.path()), qPrintable(log));
         QVERIFY(isUp && isOver);
         QVERIFY(identities() == before);

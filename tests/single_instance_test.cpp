@@ -5,6 +5,7 @@
 #include "stage/files.h"
 #include "support/broken_world.h"
 #include "support/program.h"
+#include "support/rows.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -50,9 +51,10 @@ private Q_SLOTS:
     {
         m_home = std::make_unique<QTemporaryDir>();
         m_data = m_home->filePath(u"data"_s);
-        for (const char* const folder : {"data", "runtime"})
-            QVERIFY(QDir(m_home->path()).mkdir(QLatin1String(folder)));
-        forbid(m_home->filePath(u"runtime"_s), 0700);
+        m_lock = m_data + u"/lock"_s;
+        const QDir home(m_home->path());
+        constexpr auto mine = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+        QVERIFY(home.mkdir(u"data"_s) && home.mkdir(u"runtime"_s, mine));
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_home->path()));
     }
 
@@ -77,7 +79,7 @@ private Q_SLOTS:
         QCOMPARE(SingleInstance().claim(m_data, {}), Claim::isOurs);
         QCOMPARE(claimElsewhere(u"data"_s), Claim::isOurs);
         // What a crash leaves behind is no game.
-        writeFile(m_data + u"/lock"_s, lockOf(longGone));
+        writeFile(m_lock, lockOf(longGone));
         QCOMPARE(claimElsewhere(u"data"_s), Claim::isOurs);
     }
 
@@ -96,7 +98,7 @@ private Q_SLOTS:
     {
         // A lock of a game that does not listen, and goes in a moment.
         QProcess holder;
-        holder.start(QCoreApplication::applicationFilePath(), {u"--hold"_s, m_data + u"/lock"_s});
+        holder.start(QCoreApplication::applicationFilePath(), {u"--hold"_s, m_lock});
         QVERIFY(holder.waitForReadyRead(5000));
         QCOMPARE(SingleInstance().claim(m_data, {}), Claim::isOurs);
         QVERIFY(holder.waitForFinished(5000));
@@ -105,32 +107,30 @@ private Q_SLOTS:
     void aLockThatCannotBeRemovedKeepsNobodyFromPlaying()
     {
         // Of a process long gone, in a folder that the player cannot write.
-        writeFile(m_data + u"/lock"_s, lockOf(longGone));
+        writeFile(m_lock, lockOf(longGone));
         forbid(m_data, 0555);
         {
             const AsNobody nobody(m_home->path());
             QCOMPARE(SingleInstance().claim(m_data, {}), Claim::isOurs);
         }
         forbid(m_data, 0755);
-        QCOMPARE(contentsOf(m_data + u"/lock"_s), lockOf(longGone));
+        QCOMPARE(contentsOf(m_lock), lockOf(longGone));
     }
 
     void whereLocksAreUnknownALivingGameIsStillFound_data()
     {
-        QTest::addColumn<QByteArray>("lock"); // as a crash left it
-        QTest::addColumn<Claim>("claim");
-        QTest::newRow("nobody was there") << QByteArray() << Claim::isOurs;
-        QTest::newRow("of a game that is gone") << lockOf(longGone) << Claim::isOurs;
-        QTest::newRow("cut short") << QByteArray("1") << Claim::isOurs;
-        QTest::newRow("of a game that hangs")
-            << lockOf(::getpid(), "single_instance_test") << Claim::noAnswer;
+        const Rows<QByteArray, Claim> row{"lock", "claim"};
+        row("nobody was there", {}, Claim::isOurs);
+        row("of a game that is gone", lockOf(longGone), Claim::isOurs);
+        row("cut short", "1", Claim::isOurs);
+        row("of a game that hangs", lockOf(::getpid(), "single_instance_test"), Claim::noAnswer);
     }
 
     void whereLocksAreUnknownALivingGameIsStillFound()
     {
         QFETCH(QByteArray, lock);
         if (!lock.isEmpty())
-            writeFile(m_data + u"/lock"_s, lock);
+            writeFile(m_lock, lock);
         isFlockKnown = false;
         const Claim made = SingleInstance().claim(m_data, {});
         isFlockKnown = true;
@@ -215,6 +215,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_home{};
     QString m_data{};
+    QString m_lock{};
 };
 
 int main(int argc, char* argv[])
