@@ -2,20 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/application_bundle.h"
 #include "platform/audio_player.h"
-#include "stage/files.h"
 #include "support/run_again.h"
 
 #include <QDataStream>
 #include <QElapsedTimer>
 #include <QLocalServer>
 #include <QThread>
-#include <algorithm>
 #include <cmath>
-#include <functional>
 #include <numbers>
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -28,7 +26,6 @@ constexpr double toneSeconds = 0.3;
 constexpr double flatSeconds = 1.2;
 constexpr auto flatWhole =
     std::ptrdiff_t(qRound64((flatSeconds - 0.02) * rate)) + 1; ///< at its peak
-constexpr std::chrono::milliseconds hasty{500};
 
 /// A run whose lines are failures, but for the last two: how many milliseconds things took.
 struct Performance : Run {
@@ -41,7 +38,7 @@ struct Performance : Run {
 int perform(QStringList script)
 {
     const bool isHasty = script.removeAll(u"hasty"_s) > 0;
-    std::optional<AudioPlayer> player(std::in_place, isHasty ? hasty : AudioPlayer::idleTime);
+    std::optional<AudioPlayer> player(std::in_place, isHasty ? 500ms : AudioPlayer::idleTime);
     QElapsedTimer clock;
     qint64 slowest = 0;
     for (const QString& step : script) {

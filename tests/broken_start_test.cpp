@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program itself in a broken world: it comes up, ends when told to, and spoils no file.
-#include "stage/files.h"
 #include "support/broken_world.h"
 #include "support/program.h"
 #include "support/rows.h"
@@ -21,17 +20,15 @@ private Q_SLOTS:
         const QString settings = u"config/Paircade/Paircade.conf"_s;
         const QString results = u"data/Paircade/highscores.json"_s;
         const QString lock = u"data/Paircade/lock"_s;
-        row("settings that cannot be written", "chmod 444 config/Paircade/Paircade.conf",
-            {settings});
+        row("settings that cannot be written", "chmod 444 $settings", {settings});
         row("no folder of settings, and none can be made", "rm -r config/*; chmod 555 config",
             {u"config"_s, settings});
         row("no folder of results, and none can be made", "rm -r data/*; chmod 555 data",
             {u"data"_s, results});
-        row("a pipe as settings", "rm config/*/*; mkfifo config/Paircade/Paircade.conf",
-            {settings});
-        row("a pipe as the settings' lock", "mkfifo config/Paircade/Paircade.conf.lock",
+        row("a pipe as settings", "rm $settings; mkfifo $settings", {settings});
+        row("a pipe as the settings' lock", "mkfifo $settings.lock",
             {settings, settings + u".lock"_s});
-        row("a folder as the settings' lock", "mkdir config/Paircade/Paircade.conf.lock",
+        row("a folder as the settings' lock", "mkdir $settings.lock",
             {settings, settings + u".lock"_s});
         row("a file as the folder of settings", "rm -r config; echo > config", {u"config"_s});
         row("a file as the folder of results", "rm -r data; echo > data", {u"data"_s});
@@ -61,11 +58,12 @@ private Q_SLOTS:
         const QTemporaryDir home;
         QProcess shell;
         shell.setWorkingDirectory(home.path());
-        const QString script = u"mkdir -p bin config/Paircade data/Paircade; mkdir -m 700 runtime;"
-                               "cp \"$0\"/paircade bin; cp -r \"$0\"/../share .;"
-                               "printf '[General]\\nKept=1\\n' >config/Paircade/Paircade.conf;"
-                               "echo '[]' >data/Paircade/highscores.json;"_s +
-                               QString::fromLatin1(breakIt);
+        const QString script =
+            u"mkdir -p bin config/Paircade data/Paircade; mkdir -m 700 runtime;"
+            "cp \"$0\"/paircade bin; cp -r \"$0\"/../share .;"
+            "settings=config/Paircade/Paircade.conf; printf '[General]\\nKept=1\\n' >$settings;"
+            "echo '[]' >data/Paircade/highscores.json;"_s +
+            QString::fromLatin1(breakIt);
         shell.start(u"sh"_s, {u"-ec"_s, script, QCoreApplication::applicationDirPath()});
         QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
 

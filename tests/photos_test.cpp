@@ -195,22 +195,22 @@ private Q_SLOTS:
 
     void aStalledDecoderIsGivenUp_data()
     {
-        const Rows<int, int, int> row{"silence", "round", "leastTime"};
-        row("no sign of progress, twice", 3, 100, 3000);
-        row("the round's time is over", 100, 1, 900);
-        row("the game is to end", 100, 100, 0);
+        using Time = std::chrono::seconds;
+        const Rows<Time, Time, int> row{"silence", "round", "leastTime"};
+        row("no sign of progress, twice", 3s, 100s, 3000);
+        row("the round's time is over", 100s, 1s, 900);
+        row("the game is to end", 100s, 100s, 0);
     }
 
     void aStalledDecoderIsGivenUp()
     {
-        QFETCH(const int, silence);
-        QFETCH(const int, round);
+        QFETCH(const std::chrono::seconds, silence);
+        QFETCH(const std::chrono::seconds, round);
         QFETCH(const int, leastTime);
         const Termination termination;
         if (leastTime == 0)
             ::raise(SIGTERM);
-        PhotoFetch fetch = faulty("sleep", {.silence = std::chrono::seconds(silence),
-                                            .round = std::chrono::seconds(round)});
+        PhotoFetch fetch = faulty("sleep", {.silence = silence, .round = round});
         QElapsedTimer time;
         time.start();
         QVERIFY(fetch.image("faulty.jpg").isNull());

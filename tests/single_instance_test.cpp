@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One game at a time uses a folder; a second start brings the first to the front.
 #include "app/single_instance.h"
-#include "stage/files.h"
 #include "support/broken_world.h"
 #include "support/program.h"
 #include "support/rows.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QThread>
 #include <cerrno>
 #include <cstdio>
@@ -51,7 +49,6 @@ private Q_SLOTS:
     {
         m_home = std::make_unique<QTemporaryDir>();
         m_data = m_home->filePath(u"data"_s);
-        m_lock = m_data + u"/lock"_s;
         const QDir home(m_home->path());
         constexpr auto mine = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
         QVERIFY(home.mkdir(u"data"_s) && home.mkdir(u"runtime"_s, mine));
@@ -79,7 +76,7 @@ private Q_SLOTS:
         QCOMPARE(SingleInstance().claim(m_data, {}), Claim::isOurs);
         QCOMPARE(claimElsewhere(u"data"_s), Claim::isOurs);
         // What a crash leaves behind is no game.
-        writeFile(m_lock, lockOf(longGone));
+        writeFile(m_data + u"/lock"_s, lockOf(longGone));
         QCOMPARE(claimElsewhere(u"data"_s), Claim::isOurs);
     }
 
@@ -98,7 +95,7 @@ private Q_SLOTS:
     {
         // A lock of a game that does not listen, and goes in a moment.
         QProcess holder;
-        holder.start(QCoreApplication::applicationFilePath(), {u"--hold"_s, m_lock});
+        holder.start(QCoreApplication::applicationFilePath(), {u"--hold"_s, m_data + u"/lock"_s});
         QVERIFY(holder.waitForReadyRead(5000));
         QCOMPARE(SingleInstance().claim(m_data, {}), Claim::isOurs);
         QVERIFY(holder.waitForFinished(5000));
@@ -107,14 +104,14 @@ private Q_SLOTS:
     void aLockThatCannotBeRemovedKeepsNobodyFromPlaying()
     {
         // Of a process long gone, in a folder that the player cannot write.
-        writeFile(m_lock, lockOf(longGone));
+        writeFile(m_data + u"/lock"_s, lockOf(longGone));
         forbid(m_data, 0555);
         {
             const AsNobody nobody(m_home->path());
             QCOMPARE(SingleInstance().claim(m_data, {}), Claim::isOurs);
         }
         forbid(m_data, 0755);
-        QCOMPARE(contentsOf(m_lock), lockOf(longGone));
+        QCOMPARE(contentsOf(m_data + u"/lock"_s), lockOf(longGone));
     }
 
     void whereLocksAreUnknownALivingGameIsStillFound_data()
@@ -130,7 +127,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, lock);
         if (!lock.isEmpty())
-            writeFile(m_lock, lock);
+            writeFile(m_data + u"/lock"_s, lock);
         isFlockKnown = false;
         const Claim made = SingleInstance().claim(m_data, {});
         isFlockKnown = true;
@@ -176,10 +173,7 @@ private Q_SLOTS:
 
     void aKilledGameLeavesTheFolderFree()
     {
-        {
-            Program killed(m_home->path()); // and with it its lock and its socket
-            QVERIFY(killed.comesUp());
-        }
+        QVERIFY(Program(m_home->path()).comesUp()); // then killed; its lock and socket stay
         Program next(m_home->path());
         QVERIFY(next.comesUp());
         QVERIFY(Program(m_home->path()).endsWell());
@@ -215,7 +209,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_home{};
     QString m_data{};
-    QString m_lock{};
 };
 
 int main(int argc, char* argv[])

@@ -4,7 +4,6 @@
 // those that cannot be played.
 #include "game/memory_game.h"
 #include "settings/settings_keys.h"
-#include "stage/files.h"
 #include "stage/play.h"
 #include "stage/stage_platform.h"
 #include "support/run_again.h"
