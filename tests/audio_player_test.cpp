@@ -66,9 +66,9 @@ void writeSound(const QString& path, double seconds, const std::function<double(
     const auto count = static_cast<quint32>(seconds * rate);
     out.writeRawData("RIFF", 4);
     out << 36 + 2 * count;
-    out.writeRawData("WAVEfmt \x10\0\0\0\1\0\1\0", 16);
+    out.writeRawData("WAVEfmt \x10\0\0\0\1\0\1\0", 16); // numbers, one channel
     out << quint32{rate} << quint32{2 * rate};
-    out.writeRawData("\2\0\x10\0data", 8);
+    out.writeRawData("\2\0\x10\0data", 8); // of 16 bits
     out << 2 * count;
     for (quint32 i = 0; i < count; ++i) {
         // 10 ms to come and go, so that the sound itself does not click.

@@ -27,9 +27,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-int syncError = 0;
-}
+static int syncError = 0;
 
 /// The system's own, but while it is told to fail.
 extern "C" int fdatasync(int file)
