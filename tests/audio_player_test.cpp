@@ -2,20 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/application_bundle.h"
 #include "platform/audio_player.h"
-#include "stage/files.h"
-#include "support/recording.h"
+#include "support/run_again.h"
 
 #include <QDataStream>
 #include <QElapsedTimer>
 #include <QLocalServer>
 #include <QThread>
-#include <algorithm>
 #include <cmath>
-#include <functional>
 #include <numbers>
 #include <optional>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -28,37 +26,28 @@ constexpr double toneSeconds = 0.3;
 constexpr double flatSeconds = 1.2;
 constexpr auto flatWhole =
     std::ptrdiff_t(qRound64((flatSeconds - 0.02) * rate)) + 1; ///< at its peak
-constexpr std::chrono::milliseconds hasty{500};
 
-/// What the child says of a performance, and what the disk driver wrote.
-struct Performance {
-    QByteArrayList failures{};
-    double slowestCall = 0; ///< in milliseconds
-    double farewell = 0;    ///< what destroying the player took, in milliseconds
-    Samples left{};
+/// A run whose lines are failures, but for the last two: how many milliseconds things took.
+struct Performance : Run {
+    double farewell = lines.takeLast().toDouble(); ///< To destroy the player.
+    double slowestCall = lines.takeLast().toDouble();
 };
 
-/// The child's part: each argument is a number of milliseconds to wait, "prepare", or a file and
-/// its volume. First may stand "hasty", for a player that soon closes a device with nothing to
-/// play.
+/// The child's part: each argument is a number of milliseconds to wait, "prepare", or a file.
+/// First may stand "hasty", for a player that soon closes a device with nothing to play.
 int perform(QStringList script)
 {
     const bool isHasty = script.removeAll(u"hasty"_s) > 0;
-    std::optional<AudioPlayer> player(std::in_place, isHasty ? hasty : AudioPlayer::idleTime);
+    std::optional<AudioPlayer> player(std::in_place, isHasty ? 500ms : AudioPlayer::idleTime);
     QElapsedTimer clock;
     qint64 slowest = 0;
     for (const QString& step : script) {
-        bool isPause = false;
-        const unsigned long pause = step.toULong(&isPause);
-        if (isPause) {
-            QThread::msleep(pause);
-            continue;
-        }
+        QThread::msleep(step.toULong()); // of what is no number nothing
         clock.start();
         if (step == u"prepare"_s)
             player->prepare();
-        else
-            player->play(step.section(u'@', 0, 0), step.section(u'@', 1).toDouble(),
+        else if (step.toULong() == 0)
+            player->play(step, 1,
                          [](const QString& text) { std::printf("%s\n", qPrintable(text)); });
         slowest = std::max(slowest, clock.nsecsElapsed());
     }
@@ -77,10 +66,9 @@ void writeSound(const QString& path, double seconds, const std::function<double(
     const auto count = static_cast<quint32>(seconds * rate);
     out.writeRawData("RIFF", 4);
     out << 36 + 2 * count;
-    out.writeRawData("WAVEfmt ", 8);
-    out << quint32{16} << quint16{1} << quint16{1} << quint32{rate} << quint32{2 * rate}
-        << quint16{2} << quint16{16};
-    out.writeRawData("data", 4);
+    out.writeRawData("WAVEfmt \x10\0\0\0\1\0\1\0", 16); // numbers, one channel
+    out << quint32{rate} << quint32{2 * rate};
+    out.writeRawData("\2\0\x10\0data", 8); // of 16 bits
     out << 2 * count;
     for (quint32 i = 0; i < count; ++i) {
         // 10 ms to come and go, so that the sound itself does not click.
@@ -94,18 +82,18 @@ void writeSound(const QString& path, double seconds, const std::function<double(
 /// Place of the first sample from `begin` on that is louder than `level`.
 std::size_t onset(const Samples& samples, std::size_t begin, int level)
 {
-    const auto first = samples.begin() + std::ptrdiff_t(std::min(begin, samples.size()));
-    const auto found =
-        std::find_if(first, samples.end(), [=](int s) { return std::abs(s) > level; });
-    return std::size_t(found - samples.begin());
+    while (begin < samples.size() && std::abs(samples[begin]) <= level)
+        ++begin;
+    return begin;
 }
 
 /// Place behind the last sample louder than `level`.
 std::size_t lastAbove(const Samples& samples, int level)
 {
-    const auto found =
-        std::find_if(samples.rbegin(), samples.rend(), [=](int s) { return std::abs(s) > level; });
-    return std::size_t(samples.rend() - found);
+    std::size_t end = samples.size();
+    while (end > 0 && std::abs(samples[end - 1]) <= level)
+        --end;
+    return end;
 }
 
 } // namespace
@@ -127,20 +115,20 @@ private Q_SLOTS:
     // followed by the pair's own sound in the same turn.
     void aSoundCutsOffTheOneBefore()
     {
-        const Performance heard = listen({u"prepare"_s, u"200"_s, m_flat + u"@1"_s, u"400"_s,
-                                          m_tone + u"@1"_s, m_tone + u"@1"_s, u"600"_s});
-        QCOMPARE(heard.failures, QByteArrayList());
+        const Performance run =
+            listen({u"prepare"_s, u"200"_s, m_flat, u"400"_s, m_tone, m_tone, u"600"_s});
+        QCOMPARE(run.lines, QByteArrayList());
         // What is louder than the tone can only be the flat sound.
-        const std::size_t begin = onset(heard.left, 0, 0);
-        const std::size_t cut = lastAbove(heard.left, tonePeak + 100);
+        const std::size_t begin = onset(run.heard, 0, 0);
+        const std::size_t cut = lastAbove(run.heard, tonePeak + 100);
         QVERIFY(cut > begin + rate / 5 && cut < begin + rate);
-        const double toneLeft = double(lastAbove(heard.left, 0) - cut) / rate;
+        const double toneLeft = double(lastAbove(run.heard, 0) - cut) / rate;
         QVERIFY2(toneLeft > toneSeconds - 0.05 && toneLeft < toneSeconds + 0.05,
                  qPrintable(QString::number(toneLeft)));
         // The tone's own steps reach 1140; a cut without a fade makes one of 16000.
         int step = 0;
-        for (std::size_t i = 1; i < heard.left.size(); ++i)
-            step = std::max(step, std::abs(heard.left[i] - heard.left[i - 1]));
+        for (std::size_t i = 1; i < run.heard.size(); ++i)
+            step = std::max(step, std::abs(run.heard[i] - run.heard[i - 1]));
         QVERIFY2(step < 1500, qPrintable(QString::number(step)));
     }
 
@@ -149,31 +137,29 @@ private Q_SLOTS:
         writeFile(path("empty.mp3"), "");
         writeFile(path("garbage.mp3"), "no sound");
         writeFile(path("cut.wav"), "RIFF\x24\0\0\0WAVE");
-        const Performance heard =
-            listen({m_flat + u"@1"_s, u"200"_s, path("empty.mp3") + u"@1"_s,
-                    path("garbage.mp3") + u"@1"_s, path("cut.wav") + u"@1"_s,
-                    path("missing.mp3") + u"@1"_s, m_home.path() + u"@1"_s, u"3000"_s});
-        QCOMPARE(heard.failures.size(), 5);
-        QVERIFY(!heard.failures.contains(QByteArray()));
+        const Performance run =
+            listen({m_flat, u"200"_s, path("empty.mp3"), path("garbage.mp3"), path("cut.wav"),
+                    path("missing.mp3"), m_home.path(), u"3000"_s});
+        QCOMPARE(run.lines.size(), 5);
+        QVERIFY(!run.lines.contains(QByteArray()));
         // Heard whole, up to its last sample, for which a busy machine takes its time.
-        QCOMPARE(std::count(heard.left.begin(), heard.left.end(), flatPeak), flatWhole);
+        QCOMPARE(std::count(run.heard.begin(), run.heard.end(), flatPeak), flatWhole);
     }
 
     // Each opening begins the recording anew.
     void anIdleDeviceIsClosedAndOpenedAgain()
     {
         const auto secondsAfter = [this](const QStringList& script) {
-            const Performance heard =
-                listen(QStringList{u"hasty"_s} + script + QStringList{m_flat + u"@1"_s, u"1400"_s});
+            const Performance run =
+                listen(QStringList{u"hasty"_s} + script + QStringList{m_flat, u"1400"_s});
             // Nothing of it is lost by the opening.
-            const auto whole = std::count(heard.left.begin(), heard.left.end(), flatPeak);
-            return whole < flatWhole ? 0 : double(heard.left.size()) / rate;
+            const auto whole = std::count(run.heard.begin(), run.heard.end(), flatPeak);
+            return whole < flatWhole ? 0 : double(run.heard.size()) / rate;
         };
         const auto isReopened = [](double seconds) { return seconds > 0 && seconds < 1.9; };
-        QVERIFY(isReopened(secondsAfter({m_tone + u"@1"_s, u"1200"_s})));
-        QVERIFY(
-            isReopened(secondsAfter({u"prepare"_s, u"900"_s}))); // for a sound that did not come
-        QVERIFY(secondsAfter({m_flat + u"@1"_s, u"1000"_s}) >= 1.9); // while it plays
+        QVERIFY(isReopened(secondsAfter({m_tone, u"1200"_s})));
+        QVERIFY(isReopened(secondsAfter({u"prepare"_s, u"900"_s}))); // for no sound
+        QVERIFY(secondsAfter({m_flat, u"1000"_s}) >= 1.9);           // while it plays
     }
 
     void theSoundsOfTheGameAreHeard()
@@ -183,14 +169,14 @@ private Q_SLOTS:
             const auto file = ApplicationBundle::ofRunningProgram().resource(
                 QString::fromLatin1(name), u"mp3"_s, u"Sounds"_s);
             QVERIFY(file);
-            script << *file + u"@1"_s << u"900"_s;
+            script << *file << u"900"_s;
         }
-        const Performance heard = listen(script);
-        QCOMPARE(heard.failures, QByteArrayList());
+        const Performance run = listen(script);
+        QCOMPARE(run.lines, QByteArrayList());
         std::size_t begin = 0;
         for (int i = 0; i < 4; ++i)
-            begin = onset(heard.left, begin, 300) + rate * 3 / 4;
-        QVERIFY(begin < heard.left.size());
+            begin = onset(run.heard, begin, 300) + rate * 3 / 4;
+        QVERIFY(begin < run.heard.size());
     }
 
     void neverWaitsForASoundServer()
@@ -199,22 +185,20 @@ private Q_SLOTS:
         QLocalServer server;
         QVERIFY(server.listen(path("server")));
         qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(path("server")));
-        const Performance heard =
-            listen({u"prepare"_s, path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, u"500"_s},
-                   u"pulseaudio"_s);
+        const Performance run =
+            listen({u"prepare"_s, path("missing.mp3"), m_tone, u"500"_s}, u"pulseaudio"_s);
         QVERIFY2(server.waitForNewConnection(0), "SDL found no PulseAudio to ask");
-        QCOMPARE(heard.failures, QByteArrayList()); // so the thread is still waiting
-        QVERIFY2(heard.slowestCall < 100, qPrintable(QString::number(heard.slowestCall)));
-        QVERIFY2(heard.farewell < 2000, qPrintable(QString::number(heard.farewell)));
+        QCOMPARE(run.lines, QByteArrayList()); // so the thread is still waiting
+        QVERIFY2(run.slowestCall < 100, qPrintable(QString::number(run.slowestCall)));
+        QVERIFY2(run.farewell < 2000, qPrintable(QString::number(run.farewell)));
     }
 
     void withoutADeviceFilesAreStillChecked()
     {
-        const Performance heard = listen(
-            {path("missing.mp3") + u"@1"_s, m_tone + u"@1"_s, m_home.path() + u"@1"_s, u"500"_s},
-            u"nosuchdriver"_s);
-        QCOMPARE(heard.failures.size(), 2);
-        QVERIFY2(heard.slowestCall < 100, qPrintable(QString::number(heard.slowestCall)));
+        const Performance run =
+            listen({path("missing.mp3"), m_tone, m_home.path(), u"500"_s}, u"nosuchdriver"_s);
+        QCOMPARE(run.lines.size(), 2);
+        QVERIFY2(run.slowestCall < 100, qPrintable(QString::number(run.slowestCall)));
     }
 
 private:
@@ -226,13 +210,7 @@ private:
     /// Lets a child perform `script`, see perform(), and listens.
     static Performance listen(const QStringList& script, const QString& driver = u"disk"_s)
     {
-        Recording recording = recordingOf(QStringList{u"--perform"_s} + script, driver);
-        Performance heard;
-        heard.farewell = recording.lines.takeLast().toDouble();
-        heard.slowestCall = recording.lines.takeLast().toDouble();
-        heard.failures = recording.lines;
-        heard.left = recording.left;
-        return heard;
+        return Performance{runAgain(QStringList{u"--perform"_s} + script, driver)};
     }
 
     QTemporaryDir m_home{};

@@ -9,6 +9,7 @@
 #include "stage/game_window.h"
 #include "support/broken_world.h"
 #include "support/output_of.h"
+#include "support/rows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +22,7 @@ QByteArray resultsOf(std::size_t count, const QString& name)
     return encodeHighscores(HighscoreEntries(count, entry));
 }
 
-/// A world, how many results are in the file once a game was won in it, and whether the
-/// settings are still those from before.
-struct World {
-    const char* name;
-    std::function<void(StagePlatform&)> prepare;
-    int results;
-    enum class Settings { change, stay } settings = Settings::change;
-};
-using Settings = World::Settings;
+using Preparation = std::function<void(StagePlatform&)>;
 constexpr int untouched = -1; ///< what lies there stays as it is
 
 void settings(StagePlatform& platform, const QByteArray& contents)
@@ -47,68 +40,6 @@ void setAll(StagePlatform& platform, const QByteArray& number, const QByteArray&
                            rounds + '\n');
 }
 
-const std::vector<World>& worlds()
-{
-    const auto results = [](StagePlatform& platform) { return platform.highscoreFile(); };
-    const auto folder = [](StagePlatform& platform) {
-        return QFileInfo(platform.highscoreFile()).path();
-    };
-    static const std::vector<World> worlds{
-        {"garbage as settings",
-         [](auto& p) { settings(p, "[[]\n=\n%zz%0\n\xff\xfe[General\nAmountCards\n"); }, 1},
-        {"binary settings of 5 MB",
-         [](auto& p) { settings(p, QByteArray("\x7f\0=\n\\x\xff@", 7).repeated(700'000)); }, 1},
-        {"each setting of a wrong type",
-         [](auto& p) {
-             settings(p, "[General]\nAmountCards=@Variant(x)\nAmountRounds=one, two\n"
-                         "CardDeck=\" Cyberpunk\\n\"\nGameIsActive=maybe\nRemoveMatch=@Size(1 1)\n"
-                         "LaunchInFullscreen=true\nPlaySounds=yes\nVolumeSound=nan\n"
-                         "PaircadeAlbum=@ByteArray(1)\n");
-         },
-         1},
-        {"each setting far below its range",
-         [](auto& p) { setAll(p, "-99999999999999999999", "-99999999999999999999"); }, 1},
-        {"each setting far above its range, but the rounds, which have no end",
-         [](auto& p) { setAll(p, "99999999999999999999", "1"); }, 1},
-        {"a folder of settings that cannot be written",
-         [](auto&) { forbid(QFileInfo(settingsFile()).path(), 0555); }, 1, Settings::stay},
-        {"a folder of results that cannot be written",
-         [=](auto& p) {
-             p.writeHighscoreFile(resultsOf(3, u"Ben"_s));
-             forbid(folder(p), 0555);
-         },
-         untouched},
-        {"a folder of results that cannot be entered",
-         [=](auto& p) {
-             p.writeHighscoreFile("[]");
-             forbid(folder(p));
-         },
-         untouched},
-        {"results that cannot be read",
-         [=](auto& p) {
-             p.writeHighscoreFile("[]");
-             forbid(results(p));
-         },
-         untouched},
-        {"a pipe as results", [=](auto& p) { makePipe(results(p)); }, untouched},
-        {"a device as results", [=](auto& p) { QFile::link(u"/dev/zero"_s, results(p)); },
-         untouched},
-        {"results of 4 TB",
-         [=](auto& p) {
-             p.writeHighscoreFile("[");
-             QFile::resize(results(p), qint64{1} << 42);
-         },
-         untouched},
-        {"results nested 2,000,000 deep",
-         [](auto& p) { p.writeHighscoreFile(QByteArray(2'000'000, '[')); }, 1},
-        {"20,000 results", [=](auto& p) { p.writeHighscoreFile(resultsOf(20'000, u"Ben"_s)); },
-         20'001},
-        {"three names of 5 MB",
-         [=](auto& p) { p.writeHighscoreFile(resultsOf(3, u"日本\n😀"_s.repeated(400'000))); }, 4},
-    };
-    return worlds;
-}
-
 } // namespace
 
 class BadInputTest : public QObject {
@@ -117,26 +48,69 @@ class BadInputTest : public QObject {
 private Q_SLOTS:
     void aWholeGame_data()
     {
-        QTest::addColumn<int>("world");
-        for (const World& world : worlds())
-            QTest::newRow(world.name) << int(&world - worlds().data());
+        // How many results are in the file once a game was won, and whether the settings are
+        // still those from before.
+        const Rows<int, bool, Preparation> row{"results", "settingsStay", "prepare"};
+        const auto results = [](StagePlatform& platform) { return platform.highscoreFile(); };
+        const auto folder = [](StagePlatform& platform) {
+            return QFileInfo(platform.highscoreFile()).path();
+        };
+        row("garbage as settings", 1, false,
+            [](auto& p) { settings(p, "[[]\n=\n%zz%0\n\xff\xfe[General\nAmountCards\n"); });
+        row("binary settings of 5 MB", 1, false,
+            [](auto& p) { settings(p, QByteArray("\x7f\0=\n\\x\xff@", 7).repeated(700'000)); });
+        row("each setting of a wrong type", 1, false, [](auto& p) {
+            settings(p, "[General]\nAmountCards=@Variant(x)\nAmountRounds=one, two\n"
+                        "CardDeck=\" Cyberpunk\\n\"\nGameIsActive=maybe\nRemoveMatch=@Size(1 1)\n"
+                        "LaunchInFullscreen=true\nPlaySounds=yes\nVolumeSound=nan\n"
+                        "PaircadeAlbum=@ByteArray(1)\n");
+        });
+        row("each setting far below its range", 1, false,
+            [](auto& p) { setAll(p, "-99999999999999999999", "-99999999999999999999"); });
+        row("each setting far above its range, but the rounds, which have no end", 1, false,
+            [](auto& p) { setAll(p, "99999999999999999999", "1"); });
+        row("a folder of settings that cannot be written", 1, true,
+            [](auto&) { forbid(QFileInfo(settingsFile()).path(), 0555); });
+        row("a folder of results that cannot be written", untouched, false, [=](auto& p) {
+            p.writeHighscoreFile(resultsOf(3, u"Ben"_s));
+            forbid(folder(p), 0555);
+        });
+        row("a folder of results that cannot be entered", untouched, false,
+            [=](auto& p) { forbid(folder(p)); });
+        row("results that cannot be read", untouched, false, [=](auto& p) {
+            p.writeHighscoreFile("[]");
+            forbid(results(p));
+        });
+        row("a pipe as results", untouched, false, [=](auto& p) { makePipe(results(p)); });
+        row("a device as results", untouched, false,
+            [=](auto& p) { QFile::link(u"/dev/zero"_s, results(p)); });
+        row("results of 4 TB", untouched, false, [=](auto& p) {
+            p.writeHighscoreFile("[");
+            QFile::resize(results(p), qint64{1} << 42);
+        });
+        row("results nested 2,000,000 deep", 1, false,
+            [](auto& p) { p.writeHighscoreFile(QByteArray(2'000'000, '[')); });
+        row("20,000 results", 20'001, false,
+            [](auto& p) { p.writeHighscoreFile(resultsOf(20'000, u"Ben"_s)); });
+        row("three names of 5 MB", 4, false,
+            [](auto& p) { p.writeHighscoreFile(resultsOf(3, u"日本\n😀"_s.repeated(400'000))); });
     }
 
     void aWholeGame()
     {
-        QFETCH(const int, world);
-        const World& where = worlds().at(std::size_t(world));
-        std::unique_ptr<AsNobody> nobody;
-        const auto identities = [](const StagePlatform& platform) {
-            return std::pair(identity(platform.highscoreFile()), identity(settingsFile()));
-        };
-        std::invoke_result_t<decltype(identities), StagePlatform&> before;
+        QFETCH(const int, results);
+        QFETCH(const bool, settingsStay);
+        QFETCH(const Preparation, prepare);
+        std::optional<AsNobody> nobody;
+        decltype(identity({})) resultsBefore;
+        decltype(identity({})) settingsBefore;
         QElapsedTimer time;
         GameWindow window([&](StagePlatform& platform) {
             QDir().mkpath(QFileInfo(platform.highscoreFile()).path());
-            where.prepare(platform);
-            before = identities(platform);
-            nobody = std::make_unique<AsNobody>(platform.home.path());
+            prepare(platform);
+            resultsBefore = identity(platform.highscoreFile());
+            settingsBefore = identity(settingsFile());
+            nobody.emplace(platform.home.path());
             time.start();
         });
         window.startGame();
@@ -151,15 +125,12 @@ private Q_SLOTS:
         QVERIFY2(time.elapsed() < 60'000, qPrintable(QString::number(time.elapsed())));
 
         nobody.reset();
-        const auto after = identities(window.platform);
-        QCOMPARE(after.second == before.second, where.settings == Settings::stay);
-        if (where.results == untouched) {
-            QVERIFY(after.first == before.first);
-        } else {
-            const auto entries = readHighscores(window.platform.highscoreFile()).entries;
-            QVERIFY(entries);
-            QCOMPARE(int(entries->size()), where.results);
-        }
+        QCOMPARE(identity(settingsFile()) == settingsBefore, settingsStay);
+        if (results == untouched)
+            QVERIFY(identity(window.platform.highscoreFile()) == resultsBefore);
+        else
+            QCOMPARE(int(readHighscores(window.platform.highscoreFile()).entries.value().size()),
+                     results);
     }
 
     void aFullDiskCostsNoSettingAndNoResult()
@@ -173,7 +144,7 @@ private Q_SLOTS:
         UserDefaults& defaults = *window.platform.defaults;
         {
             // The lock of the settings still fits, the settings do not.
-            const FullDisk disk(500);
+            const Limit disk(RLIMIT_FSIZE, 500);
             window.startGame();
             QCOMPARE(defaults.integer(SettingsKeys::GameIsActive), 1);
             while (window.game().isGameActive())

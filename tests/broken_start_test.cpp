@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program itself in a broken world: it comes up, ends when told to, and spoils no file.
-#include "stage/files.h"
 #include "support/broken_world.h"
 #include "support/program.h"
+#include "support/rows.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -18,25 +15,20 @@ class BrokenStartTest : public QObject {
 private Q_SLOTS:
     void theProgramStartsAndEnds_data()
     {
-        QTest::addColumn<QString>("breakIt");   // shell, in the home
-        QTest::addColumn<QStringList>("stays"); // what is there then and must not change
-        const auto row = [](const char* name, const char* breakIt, const QStringList& stays) {
-            QTest::newRow(name) << QString::fromLatin1(breakIt) << stays;
-        };
+        // Shell, in the home; then what is there and must not change.
+        const Rows<QByteArray, QStringList> row{"breakIt", "stays"};
         const QString settings = u"config/Paircade/Paircade.conf"_s;
         const QString results = u"data/Paircade/highscores.json"_s;
         const QString lock = u"data/Paircade/lock"_s;
-        row("settings that cannot be written", "chmod 444 config/Paircade/Paircade.conf",
-            {settings});
+        row("settings that cannot be written", "chmod 444 $settings", {settings});
         row("no folder of settings, and none can be made", "rm -r config/*; chmod 555 config",
             {u"config"_s, settings});
         row("no folder of results, and none can be made", "rm -r data/*; chmod 555 data",
             {u"data"_s, results});
-        row("a pipe as settings", "rm config/*/*; mkfifo config/Paircade/Paircade.conf",
-            {settings});
-        row("a pipe as the settings' lock", "mkfifo config/Paircade/Paircade.conf.lock",
+        row("a pipe as settings", "rm $settings; mkfifo $settings", {settings});
+        row("a pipe as the settings' lock", "mkfifo $settings.lock",
             {settings, settings + u".lock"_s});
-        row("a folder as the settings' lock", "mkdir config/Paircade/Paircade.conf.lock",
+        row("a folder as the settings' lock", "mkdir $settings.lock",
             {settings, settings + u".lock"_s});
         row("a file as the folder of settings", "rm -r config; echo > config", {u"config"_s});
         row("a file as the folder of results", "rm -r data; echo > data", {u"data"_s});
@@ -61,19 +53,18 @@ private Q_SLOTS:
 
     void theProgramStartsAndEnds()
     {
-        QFETCH(const QString, breakIt);
+        QFETCH(const QByteArray, breakIt);
         QFETCH(const QStringList, stays);
         const QTemporaryDir home;
         QProcess shell;
         shell.setWorkingDirectory(home.path());
-        const QString bin = QCoreApplication::applicationDirPath();
-        shell.start(u"sh"_s, {u"-ec"_s,
-                              u"mkdir -p bin config/Paircade data/Paircade; mkdir -m 700 runtime;"
-                              "cp \"$0\"/paircade bin; cp -r \"$0\"/../share .;"
-                              "printf '[General]\\nKept=1\\n' >config/Paircade/Paircade.conf;"
-                              "echo '[]' >data/Paircade/highscores.json;"_s +
-                                  breakIt,
-                              bin});
+        const QString script =
+            u"mkdir -p bin config/Paircade data/Paircade; mkdir -m 700 runtime;"
+            "cp \"$0\"/paircade bin; cp -r \"$0\"/../share .;"
+            "settings=config/Paircade/Paircade.conf; printf '[General]\\nKept=1\\n' >$settings;"
+            "echo '[]' >data/Paircade/highscores.json;"_s +
+            QString::fromLatin1(breakIt);
+        shell.start(u"sh"_s, {u"-ec"_s, script, QCoreApplication::applicationDirPath()});
         QVERIFY(shell.waitForFinished() && shell.exitCode() == 0);
 
         const AsNobody nobody(home.path());
@@ -90,8 +81,7 @@ private Q_SLOTS:
         const QString log = QFile::symLinkTarget(u"/proc/%1/fd/1"_s.arg(game.process.processId()));
         game.signal(SIGTERM);
         const bool isOver = game.endsWell();
-        QCOMPARE(game.process.readAllStandardError(), QByteArray());
-        QCOMPARE(game.process.readAllStandardOutput(), QByteArray());
+        QCOMPARE(game.process.readAllStandardError() + game.process.readAllStandardOutput(), "");
         QVERIFY2(!log.isEmpty() && !log.startsWith(home.path()), qPrintable(log));
         QVERIFY(isUp && isOver);
         QVERIFY(identities() == before);

@@ -16,7 +16,6 @@
 #include <QTest>
 #include <QTimeZone>
 #include <QUrl>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +30,11 @@ QString between(const QString& page, const QString& from, const QString& to)
 QString rowsIn(const QString& page)
 {
     return between(page, u"<tbody>\n"_s, u"\n                </tbody>"_s);
+}
+
+QString reportIn(const StagePlatform& platform)
+{
+    return platform.home.filePath(u"data/Paircade/highscores.html"_s);
 }
 
 /// Texts of which each one is escaped in a way of its own.
@@ -48,14 +52,6 @@ class HtmlReportTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_platform = std::make_unique<StagePlatform>();
-        m_report = m_platform->home.filePath(u"data/Paircade/highscores.html"_s);
-    }
-
-    void cleanup() { m_platform.reset(); }
-
     void writesARowForEveryRecord()
     {
         // The attributes, then the cells.
@@ -101,13 +97,9 @@ private Q_SLOTS:
         for (const auto& [entry, values] : rows) {
             QStringList left = values.split(u'|');
             QString expected = u"<tr\n"_s;
-            for (const auto& name :
-                 {u"player"_s, u"time"_s, u"failures"_s, u"cards"_s, u"rounds"_s, u"mode"_s})
-                expected += u"    data-"_s + name + u"=\""_s + left.takeFirst() + u"\"\n"_s;
-            expected += u">\n"_s;
-            for (const QString& cell : left)
-                expected += u"    <td>"_s + cell + u"</td>\n"_s;
-            expected += u"</tr>"_s;
+            for (const char* const name : {"player", "time", "failures", "cards", "rounds", "mode"})
+                expected += u"    data-%1=\"%2\"\n"_s.arg(QLatin1String(name), left.takeFirst());
+            expected += u">\n    <td>"_s + left.join(u"</td>\n    <td>"_s) + u"</td>\n</tr>"_s;
             QCOMPARE(rowsIn(buildReport({entry}, marked)), expected);
             QCOMPARE(rowsIn(buildReport({entry, entry}, marked)), expected + u'\n' + expected);
         }
@@ -126,18 +118,20 @@ private Q_SLOTS:
 
     void opensThePageOfAllRecordsInOrder()
     {
+        const StagePlatform platform;
         HighscoreEntries entries;
         for (const int time : {7, 3, 5, 9, 1, 8, 2, 6, 0, 4, 11, 10})
             entries.push_back({.gameMode = soloMode, .elapsedSeconds = time, .amountCards = 1});
         entries.push_back({.gameMode = versusMode, .elapsedSeconds = -1, .amountCards = 2});
-        m_platform->writeHighscoreFile(encodeHighscores(entries));
-        m_platform->defaults->setInteger(SettingsKeys::AmountCards, 9);
-        m_platform->defaults->setInteger(SettingsKeys::AmountRounds, -5);
+        platform.writeHighscoreFile(encodeHighscores(entries));
+        platform.defaults->setInteger(SettingsKeys::AmountCards, 9);
+        platform.defaults->setInteger(SettingsKeys::AmountRounds, -5);
 
         MemoryGame().openHighscoresHTML();
-        QCOMPARE(m_platform->openedFiles.paths, QStringList(m_report));
-        QVERIFY(m_platform->alertLog.shown.isEmpty());
-        const QString page = QString::fromUtf8(contentsOf(m_report));
+        const QString report = reportIn(platform);
+        QCOMPARE(platform.openedFiles.paths, QStringList(report));
+        QVERIFY(platform.alertLog.shown.isEmpty());
+        const QString page = QString::fromUtf8(contentsOf(report));
         QString times;
         for (const QString& row : page.split(u"data-time=\""_s).mid(1))
             times += row.section(u'"', 0, 0) + u' ';
@@ -148,37 +142,38 @@ private Q_SLOTS:
         QVERIFY(!page.contains(u"highscores_"_s)); // every text was found
 
         // The report is made anew; an unreadable file holds no records.
-        m_platform->writeHighscoreFile("[{}]");
+        platform.writeHighscoreFile("[{}]");
         MemoryGame().openHighscoresHTML();
-        QVERIFY(contentsOf(m_report).contains("<td colspan=\"6\">No results yet</td>"));
-        QCOMPARE(m_platform->openedFiles.paths.size(), 2);
+        QVERIFY(contentsOf(report).contains("<td colspan=\"6\">No results yet</td>"));
+        QCOMPARE(platform.openedFiles.paths.size(), 2);
     }
 
     void aPageThatCannotBeWrittenIsNotOpened()
     {
+        const StagePlatform platform;
+        const QString report = reportIn(platform);
         MemoryGame game;
         game.openHighscoresHTML();
-        m_platform->openedFiles.paths.clear();
-        const QByteArray earlier = contentsOf(m_report);
+        const QByteArray earlier = contentsOf(report);
         QVERIFY(!earlier.isEmpty());
         {
-            const FullDisk disk(1000);
+            const Limit disk(RLIMIT_FSIZE, 1000);
             game.openHighscoresHTML();
         }
-        QCOMPARE(contentsOf(m_report), earlier);
-        QVERIFY(QFile::remove(m_report) && QDir().mkpath(m_report + u"/x"_s));
+        QCOMPARE(contentsOf(report), earlier);
+        QVERIFY(QFile::remove(report) && QDir().mkpath(report + u"/x"_s));
         game.openHighscoresHTML();
-        QDir data(m_platform->home.filePath(u"data"_s));
+        QDir data(platform.home.filePath(u"data"_s));
         QVERIFY(data.removeRecursively());
         writeFile(data.path(), "in the way");
         game.openHighscoresHTML();
 
         const QString alert = u"The highscore page could not be saved|%1|OK"_s;
-        QCOMPARE(m_platform->alertLog.shown,
+        QCOMPARE(platform.alertLog.shown,
                  (QStringList{alert.arg(u"File too large"_s),
                               alert.arg(u"Filename refers to a directory"_s),
                               alert.arg(u"Not a directory"_s)}));
-        QVERIFY(m_platform->openedFiles.paths.isEmpty());
+        QCOMPARE(platform.openedFiles.paths.size(), 1); // the earlier one
     }
 
     void datesFollowTheLocale()
@@ -204,8 +199,6 @@ public Q_SLOTS:
     void takeUrl(const QUrl& url) { m_url = url; }
 
 private:
-    std::unique_ptr<StagePlatform> m_platform{};
-    QString m_report{};
     QUrl m_url{};
 };
 

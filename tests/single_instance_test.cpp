@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One game at a time uses a folder; a second start brings the first to the front.
 #include "app/single_instance.h"
-#include "stage/files.h"
 #include "support/broken_world.h"
 #include "support/program.h"
+#include "support/rows.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QThread>
 #include <cerrno>
 #include <cstdio>
@@ -50,9 +49,9 @@ private Q_SLOTS:
     {
         m_home = std::make_unique<QTemporaryDir>();
         m_data = m_home->filePath(u"data"_s);
-        for (const char* const folder : {"data", "runtime"})
-            QVERIFY(QDir(m_home->path()).mkdir(QLatin1String(folder)));
-        forbid(m_home->filePath(u"runtime"_s), 0700);
+        const QDir home(m_home->path());
+        constexpr auto mine = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+        QVERIFY(home.mkdir(u"data"_s) && home.mkdir(u"runtime"_s, mine));
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_home->path()));
     }
 
@@ -117,13 +116,11 @@ private Q_SLOTS:
 
     void whereLocksAreUnknownALivingGameIsStillFound_data()
     {
-        QTest::addColumn<QByteArray>("lock"); // as a crash left it
-        QTest::addColumn<Claim>("claim");
-        QTest::newRow("nobody was there") << QByteArray() << Claim::isOurs;
-        QTest::newRow("of a game that is gone") << lockOf(longGone) << Claim::isOurs;
-        QTest::newRow("cut short") << QByteArray("1") << Claim::isOurs;
-        QTest::newRow("of a game that hangs")
-            << lockOf(::getpid(), "single_instance_test") << Claim::noAnswer;
+        const Rows<QByteArray, Claim> row{"lock", "claim"};
+        row("nobody was there", {}, Claim::isOurs);
+        row("of a game that is gone", lockOf(longGone), Claim::isOurs);
+        row("cut short", "1", Claim::isOurs);
+        row("of a game that hangs", lockOf(::getpid(), "single_instance_test"), Claim::noAnswer);
     }
 
     void whereLocksAreUnknownALivingGameIsStillFound()
@@ -176,10 +173,7 @@ private Q_SLOTS:
 
     void aKilledGameLeavesTheFolderFree()
     {
-        {
-            Program killed(m_home->path()); // and with it its lock and its socket
-            QVERIFY(killed.comesUp());
-        }
+        QVERIFY(Program(m_home->path()).comesUp()); // then killed; its lock and socket stay
         Program next(m_home->path());
         QVERIFY(next.comesUp());
         QVERIFY(Program(m_home->path()).endsWell());

@@ -4,43 +4,37 @@
 // those that cannot be played.
 #include "game/memory_game.h"
 #include "settings/settings_keys.h"
-#include "stage/files.h"
 #include "stage/play.h"
 #include "stage/stage_platform.h"
-#include "support/recording.h"
+#include "support/run_again.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Turns a card of a real game with the settings PlaySounds and VolumeSound.
-void turnACard(const QString& playSounds, const QString& volume)
+/// Plays a real game with the settings PlaySounds and VolumeSound: turns one card, or all
+/// after a miss if `resources` has the sounds.
+void play(const QString& playSounds, const QString& volume, const QString& resources)
 {
     StagePlatform platform;
+    if (!resources.isEmpty()) {
+        platform.useResources(resources);
+        makeDeck(resources, u"Cyberpunk"_s, 6);
+    }
     platform.defaults->setString(SettingsKeys::PlaySounds, playSounds);
     platform.defaults->setString(SettingsKeys::VolumeSound, volume);
     MemoryGame game;
     game.setPlayerName(u"Ann"_s);
     game.startNewGame();
-    flip(game, 0);
+    if (resources.isEmpty()) {
+        flip(game, 0);
+    } else {
+        miss(game);
+        (void)QTest::qWaitFor([&game] { return !game.isCheckingPair(); });
+        while (game.isGameActive())
+            findPair(game);
+    }
     QTest::qWait(500);
-}
-
-/// Plays a game with one miss, with the sounds of the folder `resources`.
-void playAGame(const QString& resources, const QString& playSounds)
-{
-    StagePlatform platform;
-    platform.useResources(resources);
-    makeDeck(resources, u"Cyberpunk"_s, 6);
-    platform.defaults->setString(SettingsKeys::PlaySounds, playSounds);
-    MemoryGame game;
-    game.setPlayerName(u"Ann"_s);
-    game.startNewGame();
-    miss(game);
-    (void)QTest::qWaitFor([&game] { return !game.isCheckingPair(); });
-    while (game.isGameActive())
-        findPair(game);
-    QTest::qWait(300);
 }
 
 } // namespace
@@ -68,14 +62,14 @@ private Q_SLOTS:
         for (const QString& playSounds : {u"0"_s, u"2"_s, u"true"_s}) {
             // The device is not even opened.
             QCOMPARE(peakAt(playSounds, u"100"_s), -1);
-            QVERIFY(recordingOf({u"--play"_s, empty.path(), playSounds}).lines.isEmpty());
+            QVERIFY(runAgain({u"--play"_s, playSounds, u"100"_s, empty.path()}).lines.isEmpty());
         }
     }
 
     void whatCannotBePlayedIsLogged()
     {
         const QTemporaryDir resources;
-        const QStringList game{u"--play"_s, resources.path(), u"1"_s};
+        const QStringList game{u"--play"_s, u"1"_s, u"100"_s, resources.path()};
         QByteArrayList names{"card_flip", "card_flip", "card_reset"};
         for (int i = 0; i < 6; ++i)
             names += {"card_flip", "card_flip", "card_done"};
@@ -83,13 +77,13 @@ private Q_SLOTS:
         QByteArrayList expected;
         for (const QByteArray& name : names)
             expected += "Sounddatei Sounds/" + name + ".mp3 nicht gefunden";
-        QCOMPARE(recordingOf(game).lines, expected);
+        QCOMPARE(runAgain(game).lines, expected);
 
-        QVERIFY(QDir(resources.path()).mkpath(u"Sounds"_s));
+        QVERIFY(QDir(resources.path()).mkdir(u"Sounds"_s));
         for (const QByteArray& name : names)
-            writeFile(resources.filePath(u"Sounds/%1.mp3"_s.arg(QString::fromLatin1(name))),
+            writeFile(resources.filePath(QString::fromLatin1("Sounds/" + name + ".mp3")),
                       "no sound");
-        const QByteArrayList lines = recordingOf(game).lines;
+        const QByteArrayList lines = runAgain(game).lines;
         QCOMPARE(lines.size(), names.size());
         for (qsizetype i = 0; i < lines.size(); ++i)
             QVERIFY(lines[i].startsWith("Fehler beim Abspielen von Sounds/" + names[i] + ".mp3: "));
@@ -99,9 +93,9 @@ private:
     /// The loudest sample that a turned card leaves; -1 if no device was opened.
     static int peakAt(const QString& playSounds, const QString& volume)
     {
-        const Recording heard = recordingOf({u"--turn"_s, playSounds, volume});
-        int peak = heard.isMade ? 0 : -1;
-        for (const int sample : heard.left)
+        const Run run = runAgain({u"--play"_s, playSounds, volume});
+        int peak = run.isDeviceOpened ? 0 : -1;
+        for (const int sample : run.heard)
             peak = std::max(peak, std::abs(sample));
         return peak;
     }
@@ -111,8 +105,8 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1).startsWith(u"--")) {
-        (arguments[1] == u"--turn" ? turnACard : playAGame)(arguments.value(2), arguments.value(3));
+    if (arguments.value(1) == u"--play"_s) {
+        play(arguments.value(2), arguments.value(3), arguments.value(4));
         return 0;
     }
     SoundEffectsTest test;

@@ -10,13 +10,13 @@
 #include "settings/settings_keys.h"
 #include "stage/play.h"
 #include "support/real_photos.h"
+#include "support/rows.h"
+#include "support/run_again.h"
 #include "ui/content_view.h"
 
 #include <QAction>
 #include <QFileDialog>
 #include <QMenu>
-#include <QProcess>
-#include <QTest>
 #include <QTimer>
 #include <csignal>
 #include <cstdio>
@@ -36,28 +36,26 @@ void bringUp(const QByteArray& under, AppDelegate& delegate, StagePlatform& plat
     const auto after = [&game](int milliseconds, const std::function<void()>& act) {
         QTimer::singleShot(milliseconds, &game, act);
     };
+    const auto start = [&game] { game.startNewGame(); };
     if (under == "alert") {
         game.showLocalizedAlert("ok");
     } else if (under == "two alerts and a start") {
         game.showLocalizedAlert("ok");
         game.showLocalizedAlert("ok");
-        after(50, [&game] { game.startNewGame(); });
+        after(50, start);
     } else if (under == "report's alert over a miss") {
         miss(game);
         QDir().mkpath(platform.home.filePath(u"data/Paircade/highscores.html/x"_s));
         choose("menu_open_highscores_html");
     } else if (under.startsWith("photo question")) {
         platform.defaults->setString(SettingsKeys::CardDeck, u"iPhoto"_s);
-        after(20, [&game] { game.startNewGame(); });
+        after(20, start);
         if (under.endsWith("folder")) // the choice of one above it
             after(120, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
-    } else if (under == "about box") {
-        choose("menu_about");
-    } else if (under == "preferences") {
-        choose("menu_preferences");
+    } else if (under == "about box" || under == "preferences") {
+        choose(under == "about box" ? "menu_about" : "menu_preferences");
     } else if (under == "open menu") {
-        auto* const menu = delegate.window()->findChild<QMenu*>(u"menu_game"_s);
-        after(0, [menu] { menu->exec(); });
+        after(0, [&delegate] { delegate.window()->findChild<QMenu*>(u"menu_game"_s)->exec(); });
     } else if (under == "half a turn") {
         after(150, [&game] { flip(game, 0); });
     } else if (under == "won board") {
@@ -118,10 +116,9 @@ int leaveBy(const QByteArray& fullWay)
     QTimer::singleShot(5000, [] { std::abort(); });
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();
-    std::printf("posts %d, GameIsActive %lld, entries %d", posts,
-                static_cast<long long>(platform.defaults->integer(SettingsKeys::GameIsActive)),
-                int(platform.readHighscoreFile().count("\"id\"")));
-    std::fflush(stdout);
+    const auto isActive = int(platform.defaults->integer(SettingsKeys::GameIsActive));
+    const auto entries = int(platform.readHighscoreFile().count("\"id\""));
+    std::printf("posts %d, GameIsActive %d, entries %d\n", posts, isActive, entries);
     return status;
 }
 
@@ -133,38 +130,29 @@ class TerminationTest : public QObject {
 private Q_SLOTS:
     void noWayOutLeavesARunningGame_data()
     {
-        QTest::addColumn<int>("posts");
-        QTest::newRow("close") << 1;
-        QTest::newRow("menu") << 0;
-        QTest::newRow("SIGTERM") << 0;
-        QTest::newRow("SIGINT") << 0;
-        QTest::newRow("SIGHUP") << 0;
-        QTest::newRow("session") << 0;
-        for (const char* const under :
-             {"alert", "two alerts and a start", "report's alert over a miss", "about box",
-              "preferences", "open menu", "half a turn", "won board"})
-            QTest::addRow("%s: SIGTERM", under) << 0;
-        // No answer, so that the round that asked is not dealt, which is announced.
-        QTest::newRow("photo question: SIGTERM") << 1;
-        QTest::newRow("photo question, choosing a folder: SIGTERM") << 1;
-        QTest::newRow("preferences: close") << 1;
-        QTest::newRow("preferences: keys") << 0;
-        QTest::newRow("half a turn: close") << 1;
-        QTest::newRow("won board: menu") << 0;
+        const Rows<int> row{"posts"};
+        for (const char* const way :
+             {"menu", "SIGTERM", "SIGINT", "SIGHUP", "session", "alert: SIGTERM",
+              "two alerts and a start: SIGTERM", "report's alert over a miss: SIGTERM",
+              "about box: SIGTERM", "preferences: SIGTERM", "preferences: keys",
+              "open menu: SIGTERM", "half a turn: SIGTERM", "won board: SIGTERM",
+              "won board: menu"})
+            row(way, 0);
+        // Without an answer the round that asked is not dealt, which is announced, too.
+        for (const char* const way :
+             {"close", "preferences: close", "half a turn: close", "photo question: SIGTERM",
+              "photo question, choosing a folder: SIGTERM"})
+            row(way, 1);
     }
 
     void noWayOutLeavesARunningGame()
     {
         QFETCH(int, posts);
-        QProcess child;
-        child.start(QCoreApplication::applicationFilePath(),
-                    {u"--leave-by"_s, QString::fromLatin1(QTest::currentDataTag())});
-        QVERIFY(child.waitForFinished(20'000));
-        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(child.exitCode(), 0);
-        QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()),
-                 u"posts %1, GameIsActive 0, entries %2"_s.arg(posts).arg(
-                     QByteArray(QTest::currentDataTag()).startsWith("won") ? 1 : 0));
+        const QString way = QString::fromLatin1(QTest::currentDataTag());
+        QCOMPARE(runAgain({u"--leave-by"_s, way}).lines.join(),
+                 u"posts %1, GameIsActive 0, entries %2"_s.arg(posts)
+                     .arg(way.startsWith(u"won") ? 1 : 0)
+                     .toUtf8());
     }
 };
 

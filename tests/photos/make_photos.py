@@ -26,9 +26,8 @@ for made in (good, bad):
     made.mkdir(parents=True, exist_ok=True)
 
 
-def run(*command, **more):
-    subprocess.run(list(map(str, command)), check=True, stdin=subprocess.DEVNULL,
-                   stderr=subprocess.DEVNULL, **{"stdout": subprocess.DEVNULL, **more})
+def ffmpeg(*arguments):
+    subprocess.run(["ffmpeg", "-v", "error", "-nostdin", "-y", *map(str, arguments)], check=True)
 
 
 def drawn(width=WIDTH, height=HEIGHT):
@@ -64,22 +63,13 @@ for orientation, change in STORED.items():
     stored.save(good / f"turned{orientation}.webp", lossless=True, exif=exif)
     stored.save(good / f"turned{orientation}.tiff", tiffinfo={ORIENTATION: orientation})
 
-pixels = folder / "pixels.ppm"
-picture.save(pixels)
-with open(good / "interlaced.png", "wb") as file:
-    run("pnmtopng", "-interlace", pixels, stdout=file)
-deep = b"P6 %d %d 65535\n" % picture.size + bytes(
-    byte for value in picture.tobytes() for byte in (value, value))
-pixels.write_bytes(deep)
-with open(good / "deep.png", "wb") as file:
-    run("pnmtopng", pixels, stdout=file)
-pixels.unlink()
-
+ffmpeg("-i", good / "plain.png", "-flags", "ildct", good / "interlaced.png")
+ffmpeg("-i", good / "plain.png", "-pix_fmt", "rgb48", good / "deep.png")
 # Films of five seconds that begin in black.
 for name, codec in (("film.mp4", "libx264"), ("film.webm", "libvpx")):
-    run("ffmpeg", "-y", "-f", "lavfi", "-i", "color=black:s=96x64:d=2", "-loop", 1, "-t", 3,
-        "-i", good / "plain.png", "-filter_complex", "[0][1]concat,format=yuv420p", "-r", 10,
-        "-c:v", codec, "-crf", 10, "-b:v", "1M", good / name)
+    ffmpeg("-f", "lavfi", "-i", "color=black:s=96x64:d=2", "-loop", 1, "-t", 3,
+           "-i", good / "plain.png", "-filter_complex", "[0][1]concat,format=yuv420p", "-r", 10,
+           "-c:v", codec, "-crf", 10, "-b:v", "1M", good / name)
 
 for name in ("large.JPG", "progressive.jpeg", "large.png", "interlaced.png", "lossless.webp",
              "tagged.tif"):

@@ -60,19 +60,22 @@ private:
     const bool m_isRoot = ::geteuid() == 0;
 };
 
-/// While this lives, no file grows beyond `bytes`, as on a full disk.
-class FullDisk {
+/// While this lives, the process has no more than `most` of a resource; a file that would
+/// grow beyond RLIMIT_FSIZE fails as on a full disk.
+class Limit {
 public:
-    explicit FullDisk(rlim_t bytes)
+    Limit(__rlimit_resource_t resource, rlim_t most)
+        : m_resource(resource)
     {
         std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit full{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &full);
+        ::getrlimit(m_resource, &m_before);
+        const rlimit lower{most, m_before.rlim_max};
+        ::setrlimit(m_resource, &lower);
     }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
+    ~Limit() { ::setrlimit(m_resource, &m_before); }
+    Q_DISABLE_COPY_MOVE(Limit)
 
 private:
+    const __rlimit_resource_t m_resource;
     rlimit m_before{};
 };

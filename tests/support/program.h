@@ -15,12 +15,11 @@ public:
     /// Starts `program`; its folders are config, data and runtime in `home`.
     explicit Program(const QString& home, const QString& program = {})
     {
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("HOME"), home);
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/config"));
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
-        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home + QStringLiteral("/runtime"));
-        process.setProcessEnvironment(environment);
+        process.setEnvironment(QProcess::systemEnvironment()
+                               << QStringLiteral("HOME=") + home
+                               << QStringLiteral("XDG_CONFIG_HOME=%1/config").arg(home)
+                               << QStringLiteral("XDG_DATA_HOME=%1/data").arg(home)
+                               << QStringLiteral("XDG_RUNTIME_DIR=%1/runtime").arg(home));
         process.start(program.isEmpty()
                           ? QCoreApplication::applicationDirPath() + QStringLiteral("/paircade")
                           : program,
