@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "highscores/highscore_file.h"
 #include "stage/files.h"
+#include "support/broken_world.h"
 #include "support/rows.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <map>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -35,18 +35,6 @@ QByteArray fileWith(const QByteArray& from, const QByteArray& to)
 QByteArray fileAnd(const QByteArray& member)
 {
     return fileWith("2}", "2," + member + '}');
-}
-
-/// What the file is read as by a process that gets no more than `most` of `resource`.
-StoredHighscores readWithin(__rlimit_resource resource, rlim_t most)
-{
-    rlimit before{};
-    ::getrlimit(resource, &before);
-    const rlimit little{most, before.rlim_max};
-    ::setrlimit(resource, &little);
-    StoredHighscores stored = readHighscores(highscoreFile());
-    ::setrlimit(resource, &before);
-    return stored;
 }
 
 } // namespace
@@ -256,11 +244,16 @@ private Q_SLOTS:
         QVERIFY(QFile::resize(highscoreFile(), length));
         const auto used = contentsOf(u"/proc/self/statm"_s).split(' ')[0].toULongLong() *
                           static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
-        const StoredHighscores stored = readWithin(RLIMIT_AS, used + length / 2);
+        std::optional<Limit> limit(std::in_place, RLIMIT_AS, used + length / 2);
+        const StoredHighscores stored = readHighscores(highscoreFile());
+        limit.reset();
         QVERIFY(stored.mustStay && !stored.entries);
         QVERIFY(!readHighscores(highscoreFile()).mustStay);
         QVERIFY(readHighscores(u"/proc/self/mem"_s).mustStay); // can be opened, not read
-        QVERIFY(readWithin(RLIMIT_NOFILE, 0).mustStay);
+        limit.emplace(RLIMIT_NOFILE, 0);
+        const bool mustStay = readHighscores(highscoreFile()).mustStay;
+        limit.reset();
+        QVERIFY(mustStay);
     }
 
 private:
