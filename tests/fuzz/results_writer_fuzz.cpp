@@ -29,12 +29,11 @@ auto fieldsOf(const HighscoreEntry& entry)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+void tryInput(const QByteArray& input)
 {
-    const HighscoreEntries entries = entriesFrom(Pieces(bytesOf(data, size)));
+    const HighscoreEntries entries = entriesFrom(Pieces(input));
     const auto readBack = decodeHighscores(encodeHighscores(entries));
     require(readBack.has_value(), "what is written can be read");
     require(std::ranges::equal(*readBack, entries, {}, fieldsOf, fieldsOf),
             "what is read is what was written");
-    return 0;
 }
