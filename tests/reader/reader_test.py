@@ -181,28 +181,21 @@ class ReaderTest(unittest.TestCase):
     def find_all(self, header, end):
         """Finds all pairs of a board by memory. header(event) is what the line above the
         board then says, end() what follows the last pair."""
-        game, known, unseen = self.game, {}, list(range(12))
+        game, left, known = self.game, list(range(12)), {}
         self.assertEqual([shown for _, shown in game.cards()], [HIDDEN] * 12)
-        left = 6
-        while left:
-            first = next((one for one in known if list(known.values()).count(known[one]) == 2),
-                         None)
-            if first is None:
-                first = unseen.pop(0)
-            known[first] = name = game.turn(first)
+        while True:
+            first = left[0]
+            name = game.turn(first)
             game.expect(name + "." + header("first"))
             self.assertEqual(game.given_away(), [])
-            second = next((one for one in known if one != first and known[one] == name), None)
-            if second is None:
-                second = unseen.pop(0)
-            if left == 1:
+            second = next(one for one in left[1:] if known.get(one, name) == name)
+            if len(left) == 2:
                 act(game.cards()[second][0], "Press")
                 game.expect(f"A pair: {name}." + header("pair") + end())
                 return
             known[second] = game.turn(second)
             if known[second] == name:
-                del known[first], known[second]
-                left -= 1
+                left = [one for one in left if one not in (first, second)]
                 game.expect(f"A pair: {name}." + header("pair"))
             else:
                 self.misses += 1
