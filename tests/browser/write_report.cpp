@@ -12,11 +12,9 @@
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
     const StagePlatform platform(nullptr, QLocale::system().uiLanguages().value(0));
-    platform.writeHighscoreFile(contentsOf(QCoreApplication::arguments().value(1)));
+    platform.writeHighscoreFile(contentsOf(arguments.at(1)));
     MemoryGame().openHighscoresHTML();
-    return QFile::copy(platform.openedFiles.paths.join(u' '),
-                       QCoreApplication::arguments().value(2))
-               ? 0
-               : 1;
+    return QFile::copy(platform.openedFiles.paths.join(u' '), arguments.at(2)) ? 0 : 1;
 }

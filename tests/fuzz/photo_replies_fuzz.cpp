@@ -6,8 +6,6 @@
 #include "platform/photo_fetch.h"
 #include "stage/files.h"
 
-#include <algorithm>
-
 using PhotoMessages::pictureBytes;
 using PhotoMessages::pictureEdge;
 
@@ -30,12 +28,9 @@ void tryInput(const QByteArray& input)
                                image.sizeInBytes() == pictureBytes),
             "a picture has its size");
     const std::vector<PhotoAlbum> albums = fetch.albums(PhotoFetch::Counted::upToOne).list;
-    require(std::ranges::all_of(albums,
-                                [](const PhotoAlbum& album) {
-                                    return album.localizedTitle.has_value() &&
-                                           (album.assetCount == 0 || album.assetCount == 1);
-                                }),
-            "an album has a title and a count");
+    for (const PhotoAlbum& album : albums)
+        require(album.localizedTitle && (album.assetCount == 0 || album.assetCount == 1),
+                "an album has a title and a count");
     for (const PhotoAsset& asset : albums.empty() ? fetch.images() : fetch.assets(albums.back()))
         require(!asset.contains('\0') && asset.size() <= said.size(), "a path ends at its end");
 }

@@ -12,7 +12,7 @@ import subprocess
 import sys
 import zlib
 
-from PIL import Image, ImageDraw
+from PIL import Image
 
 WIDTH, HEIGHT = 96, 64
 ORIENTATION = 0x0112
@@ -32,12 +32,8 @@ def convert(*options):
 
 
 def drawn(width=WIDTH, height=HEIGHT):
-    picture = Image.new("RGB", (width, height), (220, 40, 40))
-    pen = ImageDraw.Draw(picture)
-    pen.rectangle((width // 2, 0, width, height // 2 - 1), (40, 180, 60))
-    pen.rectangle((0, height // 2, width // 2 - 1, height), (40, 60, 220))
-    pen.rectangle((width // 2, height // 2, width, height), (230, 220, 50))
-    return picture
+    quarters = bytes((220, 40, 40, 40, 180, 60, 40, 60, 220, 230, 220, 50))
+    return Image.frombytes("RGB", (2, 2), quarters).resize((width, height), Image.NEAREST)
 
 
 picture = drawn()

@@ -76,8 +76,7 @@ class Game:
         DESK.write_settings(CardDeck="Kids", PlaySounds=0, **settings)
         self.said = []
         self.heard = 0  # of them
-        for kind in HEARD:
-            pyatspi.Registry.registerEventListener(self.hear, kind)
+        pyatspi.Registry.registerEventListener(self.hear, *HEARD)
         self.process = DESK.start(PROGRAM)
         self.application = self.until(lambda: next(
             (one for one in pyatspi.Registry.getDesktop(0)
@@ -86,11 +85,10 @@ class Game:
         self.window = self.application[0]
 
     def hear(self, event):
-        if event.type.startswith("object:announcement"):
-            self.said.append(event.any_data)
-            return
         try:
-            if event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+            if event.type.startswith("object:announcement"):
+                self.said.append(event.any_data)
+            elif event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
                 self.said.append(event.source[0].name)
         except GLib.Error:
             pass  # a widget that is gone again
@@ -164,8 +162,7 @@ class Game:
         self.until(lambda: f"{key}={value}" in file.read_text().splitlines(), f"{key}={value}")
 
     def close(self):
-        for kind in HEARD:
-            pyatspi.Registry.deregisterEventListener(self.hear, kind)
+        pyatspi.Registry.deregisterEventListener(self.hear, *HEARD)
         self.process.terminate()
         if status := self.process.wait(20):
             raise AssertionError(f"the game ended with status {status}")
