@@ -11,17 +11,14 @@ cd "$1"
 layers=(platform/sdl app settings/preferences ui platform/widgets game highscores decks game/rules settings platform
     photos/films photos photos/protocol)
 
-# rank FILE: the place of its folder in the order; nothing for an unknown folder.
-rank() {
-    local place
-    for place in "${!layers[@]}"; do
-        [[ ${1%/*} != "${layers[$place]}" ]] || echo "$place"
-    done
-}
+declare -A rank=()
+for place in "${!layers[@]}"; do
+    rank[${layers[$place]}]=$place
+done
 
 status=0
 while IFS=: read -r file include; do
-    from=$(rank "$file") to=$(rank "$include")
+    from=${rank[${file%/*}]:-} to=${rank[${include%/*}]:-}
     if [[ -z $from || -z $to ]] || ((to < from)); then
         echo "$file includes $include, which does not lie below it"
         status=1

@@ -28,7 +28,8 @@ from selenium.webdriver.common.by import By
 from selenium.webdriver.support.ui import Select
 
 WRITER = sys.argv.pop(1)
-HOME = Path(tempfile.mkdtemp(prefix="paircade-browser-"))
+FOLDER = tempfile.TemporaryDirectory(prefix="paircade-browser-", ignore_cleanup_errors=True)
+HOME = Path(FOLDER.name)
 NAMES = [
     "<script>hacked = 1</script>", "<img src=x onerror=hacked=1>", "\"><svg onload=hacked=1>",
     "' onmouseover='hacked=1' x='", "`${hacked = 1}`", "</td></tr></table><h2>x", "<!-- x", "]]>",
@@ -38,23 +39,20 @@ NAMES = [
 ]
 
 
-def record(name, seconds=0, failures=0, cards=1, rounds=1, scores=None, second=None):
-    """A record of the file; with scores, one of two players."""
-    entry = {"id": str(uuid.uuid4()), "gameMode": "solo", "playerName": name,
-             "elapsedSeconds": seconds, "failedAttempts": failures,
-             "amountCards": cards, "amountRounds": rounds}
-    if scores:
-        entry.update(gameMode="versus", firstPlayerScore=scores[0], secondPlayerScore=scores[1])
-        if second is not None:
-            entry["secondPlayerName"] = second
-    return entry
+def record(name, **fields):
+    """A record of the file; with a second name, one of two players."""
+    return {"id": str(uuid.uuid4()), "playerName": name, "elapsedSeconds": 0, "failedAttempts": 0,
+            "gameMode": "versus" if "secondPlayerName" in fields else "solo",
+            "amountCards": 1, "amountRounds": 1, **fields}
 
 
 def random_record(number, pick=random):
     name = pick.choice(["Ann", "ann", "BEN", "Zoë", "Äda", "😀", "～", ""]) + f" #{number}"
-    scores = (pick.randrange(4), pick.randrange(40)) if pick.random() < 0.4 else None
-    return record(name, pick.choice([0, 9, 10, 75, 2**62, 2**62 + 1, -3]), pick.randrange(12),
-                  pick.randrange(8), pick.choice([1, 2, 9, 10, 100]), scores, "Eve")
+    versus = {"secondPlayerName": "Eve", "firstPlayerScore": pick.randrange(4),
+              "secondPlayerScore": pick.randrange(40)} if pick.random() < 0.4 else {}
+    return record(name, elapsedSeconds=pick.choice([0, 9, 10, 75, 2**62, 2**62 + 1, -3]),
+                  failedAttempts=pick.randrange(12), amountCards=pick.randrange(8),
+                  amountRounds=pick.choice([1, 2, 9, 10, 100]), **versus)
 
 
 class Model:
@@ -83,12 +81,9 @@ class ReportPage(unittest.TestCase):
             options.add_argument(argument)
         options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
         cls.driver = webdriver.Chrome(service=Service(DRIVER), options=options)
+        cls.addClassCleanup(cls.driver.quit)
         cls.driver.set_script_timeout(60)
-
-    @classmethod
-    def tearDownClass(cls):
-        cls.driver.quit()
-        shutil.rmtree(HOME, ignore_errors=True)
+        cls.run_script = cls.driver.execute_script
 
     def setUp(self):
         """Forgets what the browser's own start page or an earlier test has asked for."""
@@ -104,38 +99,35 @@ class ReportPage(unittest.TestCase):
         asked = [event["params"]["request"]["url"] for event in events
                  if event["method"] == "Network.requestWillBeSent"]
         self.assertEqual(set(asked) - {"about:blank"}, {self.address})
-        self.assertIsNone(self.driver.execute_script("return window.hacked"))
+        self.assertIsNone(self.run_script("return window.hacked"))
 
     def open(self, records, locale="en_US.UTF-8", is_valid=True):
         """Opens the page of the records."""
-        folder = HOME / "Paircade"
-        folder.mkdir(exist_ok=True)
-        (folder / "highscores.json").write_text(json.dumps(records))
-        path = Path(subprocess.run([WRITER], check=True, capture_output=True, text=True, env={
-            **os.environ, "XDG_DATA_HOME": str(HOME), "LC_ALL": locale, "LANGUAGE": ""}).stdout)
+        results, page = HOME / "results.json", HOME / "page.html"
+        results.write_text(json.dumps(records))
+        page.unlink(missing_ok=True)
+        subprocess.run([WRITER, results, page], check=True,
+                       env={**os.environ, "LC_ALL": locale, "LANGUAGE": ""})
         if is_valid:
-            html5lib.HTMLParser(strict=True).parse(path.read_bytes())
-        self.address = path.as_uri()
+            html5lib.HTMLParser(strict=True).parse(page.read_bytes())
+        self.address = page.as_uri()
         self.driver.get(self.address)
 
-    def run_script(self, script, *arguments):
-        return self.driver.execute_script(script, *arguments)
+    def each(self, selector, expression):
+        """What the expression gives for each element e of the page that is selected."""
+        return self.run_script(
+            f"return [...document.querySelectorAll('{selector}')].map(e => {expression})")
 
     def click(self, selector):
         self.driver.find_element(By.CSS_SELECTOR, selector).click()
 
-    def choose(self, filter_name, value):
-        Select(self.driver.find_element(By.ID, "filter-" + filter_name)).select_by_value(value)
+    def filter(self, name):
+        return Select(self.driver.find_element(By.ID, "filter-" + name))
 
-    def rows(self, visible=None):
-        """First cells of all rows in their order, or of those alone that can be seen or not."""
-        rows = self.run_script("return [...document.querySelectorAll('tbody tr')].map("
-                               "r => [r.cells[0].textContent, r.offsetHeight > 0])")
-        return [name for name, is_visible in rows if visible in (None, is_visible)]
-
-    def marks(self):
-        return self.run_script("return [...document.querySelectorAll('th')].map("
-                               "h => h.className + getComputedStyle(h, '::after').content)")
+    def rows(self):
+        """First cells of all rows in their order, and of those alone that can be seen."""
+        rows = self.each("tbody tr", "[e.cells[0].textContent, e.offsetHeight > 0]")
+        return [name for name, _ in rows], [name for name, is_visible in rows if is_visible]
 
     def test_scripts_do_what_the_model_does(self):
         seed = random.randrange(10**6)
@@ -146,8 +138,7 @@ class ReportPage(unittest.TestCase):
             expected = sorted(map(Model, records), key=lambda row: row.report_order)
             rounds = sorted({int(row.filters["rounds"]) for row in expected})
             self.assertEqual(
-                [(o.get_attribute("value"), o.text) for o in Select(
-                    self.driver.find_element(By.ID, "filter-rounds")).options],
+                [(o.get_attribute("value"), o.text) for o in self.filter("rounds").options],
                 [("", "Alle")] + [(str(value), str(value)) for value in rounds])
             chosen = {"cards": "", "rounds": "", "mode": ""}
             descending, sorted_by = {}, None
@@ -165,13 +156,13 @@ class ReportPage(unittest.TestCase):
                     chosen[action] = pick.choice({
                         "cards": ["", *"123456"], "rounds": ["", *map(str, rounds)],
                         "mode": ["", "solo", "versus"]}[action])
-                    self.choose(action, chosen[action])
+                    self.filter(action).select_by_value(chosen[action])
                 with self.subTest(seed=seed, size=size, step=step, action=action):
-                    self.assertEqual(self.rows(), [row.name for row in expected])
-                    self.assertEqual(self.rows(visible=True), [
+                    self.assertEqual(self.rows(), ([row.name for row in expected], [
                         row.name for row in expected
-                        if all(value in ("", row.filters[key]) for key, value in chosen.items())])
-                    self.assertEqual(self.marks(), [
+                        if all(value in ("", row.filters[key]) for key, value in chosen.items())]))
+                    marks = self.each("th", "e.className + getComputedStyle(e, '::after').content")
+                    self.assertEqual(marks, [
                         '"↕"' if key != sorted_by else
                         'sorted-desc" ▼"' if descending[key] else 'sorted-asc" ▲"'
                         for key in ("player", "time", "failures")] + ["none"] * 3)
@@ -180,76 +171,67 @@ class ReportPage(unittest.TestCase):
         for name in NAMES:
             # A browser reads CR as LF, drops NUL in a cell and replaces it in an attribute.
             odd = set(name) & set("\r\0\ufffe\ufdd0\u0001\x7f")
-            self.open([record(name), record("A", scores=(1, 0), second=name)], is_valid=not odd)
+            self.open([record(name), record("A", secondPlayerName=name)], is_valid=not odd)
             read = name.replace("\r\n", "\n").replace("\r", "\n")
             with self.subTest(name=name):
                 shown = read.replace("\0", "")
-                self.assertEqual(self.rows(visible=True), [shown, f"A vs {shown}"])
-                stored = self.run_script("return [...document.querySelectorAll('tbody tr')]"
-                                         ".map(r => r.getAttribute('data-player'))")
+                self.assertEqual(self.rows()[1], [shown, f"A vs {shown}"])
+                stored = self.each("tbody tr", "e.dataset.player")
                 kept = read.replace("\0", "\ufffd")
                 # Greek alone has two small letters for one capital, by place in the word.
                 small = kept.lower().replace("ς", "σ")
                 self.assertEqual([s.replace("ς", "σ") for s in stored], [small, f"a vs {small}"])
-                self.assertEqual(self.run_script(
-                    "return [...document.querySelectorAll('tbody *')].map(e => [e.localName, "
-                    "e.attributes.length])"), ([["tr", 6]] + [["td", 0]] * 6) * 2)
-                self.assertEqual(
-                    self.run_script("return document.querySelectorAll('script, h2, img').length"), 2)
+                self.assertEqual(self.each("tbody *", "[e.localName, e.attributes.length]"),
+                                 ([["tr", 6]] + [["td", 0]] * 6) * 2)
+                self.assertEqual(len(self.each("script, h2, img", "0")), 2)
 
     def test_an_empty_page_bears_every_click(self):
         self.open([], "C.UTF-8")
-        self.assertEqual(self.rows(visible=True), ["No results yet"])
-        self.assertEqual(self.run_script("return document.documentElement.lang"), "en")
-        self.assertEqual(len(Select(self.driver.find_element(By.ID, "filter-rounds")).options), 1)
+        self.assertEqual(self.rows()[1], ["No results yet"])
+        self.assertEqual(self.each("html", "e.lang"), ["en"])
+        self.assertEqual(len(self.filter("rounds").options), 1)
         for key in ("player", "time", "failures"):
             self.click(f"th[data-sort={key}]")
-        self.choose("mode", "solo")
+        self.filter("mode").select_by_value("solo")
         self.click("#reset-filters")
-        self.assertEqual(self.rows(visible=True), ["No results yet"])
+        self.assertEqual(self.rows()[1], ["No results yet"])
 
     def test_coming_back_shows_what_the_filters_say(self):
-        self.open([record("Ann", cards=1), record("Ben", cards=2)])
-        self.choose("cards", "2")
+        self.open([record("Ann"), record("Ben", amountCards=2)])
+        self.filter("cards").select_by_value("2")
         self.driver.get("about:blank")
         self.driver.back()
-        self.assertEqual(self.run_script("return document.getElementById('filter-cards').value"), "2")
-        self.assertEqual(self.rows(visible=True), ["Ben"])
+        self.assertEqual(self.each("#filter-cards", "e.value"), ["2"])
+        self.assertEqual(self.rows()[1], ["Ben"])
 
     def test_language_and_layout_names(self):
-        self.open([record("Ann", 75, cards=cards) for cards in range(1, 8)], "de_DE.UTF-8")
-        self.assertEqual(self.run_script("return document.documentElement.lang"), "de")
+        self.open([record("Ann", amountCards=cards) for cards in range(1, 8)], "de_DE.UTF-8")
+        self.assertEqual(self.each("html", "e.lang"), ["de"])
         self.assertEqual(self.driver.title, "Paircade-Highscores")
         self.assertRegex(self.driver.find_element(By.CLASS_NAME, "generated").text,
                          r"^Erstellt am \d\d\.\d\d\.\d{4}, \d\d:\d\d$")
-        shown = self.run_script("return [...document.querySelectorAll('tbody tr')].map("
-                                "r => [...r.cells].map(c => c.textContent).join(' '))")
-        self.assertEqual(shown, [f"Ann 01:15 0 {layout} 1 Einzelspiel"
+        shown = self.each("tbody tr", "[...e.cells].map(c => c.textContent).join(' ')")
+        self.assertEqual(shown, [f"Ann 00:00 0 {layout} 1 Einzelspiel"
                                  for layout in "4x3 4x4 5x4 6x4 7x4 8x5 7".split()])
 
     def test_light_dark_and_narrow(self):
         self.open([random_record(number) for number in range(60)])
         self.addCleanup(self.driver.execute_cdp_cmd, "Emulation.clearDeviceMetricsOverride", {})
-        for scheme, ground, card, text in (("light", "245, 245, 247", "255, 255, 255", "29, 29, 31"),
-                                           ("dark", "17, 17, 19", "28, 28, 30", "245, 245, 247")):
+        for scheme, *colours in (("light", "245, 245, 247", "255, 255, 255", "29, 29, 31"),
+                                 ("dark", "17, 17, 19", "28, 28, 30", "245, 245, 247")):
             self.driver.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": [
                 {"name": "prefers-color-scheme", "value": scheme}]})
             for width in (1280, 390):
                 self.driver.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {
                     "width": width, "height": 844, "deviceScaleFactor": 1, "mobile": width < 400})
                 # Only the table's frame scrolls sideways, and every filter is in sight.
-                *colours, overflow, right = self.run_script(
-                    "const of = s => getComputedStyle(document.querySelector(s));"
-                    "const page = document.documentElement;"
-                    "const ends = [...document.querySelectorAll('select, button')].map("
-                    "    e => e.getBoundingClientRect().right);"
-                    "return [of('body').backgroundColor, of('.table-wrap').backgroundColor,"
-                    "        of('td').color, page.scrollWidth - page.clientWidth,"
-                    "        Math.max(...ends)]")
+                style = [*self.each("body, .table-wrap", "getComputedStyle(e).backgroundColor"),
+                         *set(self.each("td", "getComputedStyle(e).color"))]
+                rights = self.each("select, button", "e.getBoundingClientRect().right")
                 with self.subTest(scheme=scheme, width=width):
-                    self.assertEqual(colours, [f"rgb({c})" for c in (ground, card, text)])
-                    self.assertEqual(overflow, 0)
-                    self.assertLessEqual(right, width - 32)
+                    self.assertEqual(style, [f"rgb({c})" for c in colours])
+                    self.assertEqual(self.each("html", "e.scrollWidth - e.clientWidth"), [0])
+                    self.assertLessEqual(max(rights), width - 32)
         self.driver.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": []})
 
     def test_ten_thousand_rows(self):
@@ -257,7 +239,7 @@ class ReportPage(unittest.TestCase):
         began = time.monotonic()
         for key in ("player", "time", "failures"):
             self.click(f"th[data-sort={key}]")
-        self.assertEqual(len(self.rows(visible=True)), 10_000)
+        self.assertEqual(len(self.rows()[1]), 10_000)
         # Each takes half a second at most; a busy machine may take longer, but not this long.
         self.assertLess(time.monotonic() - began, 30)
 

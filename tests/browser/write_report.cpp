@@ -1,30 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Writes the page of the results under $XDG_DATA_HOME as the game does, in the language
-// of the environment, and says where it is.
+// write_report RESULTS PAGE: writes the page of the results as the game does, in the
+// language of the environment.
 #include "game/memory_game.h"
-#include "platform/localized_text.h"
+#include "stage/files.h"
 #include "stage/stage_platform.h"
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <cstdio>
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication application(argc, argv);
-    const QByteArray home = qgetenv("XDG_DATA_HOME");
-    StagePlatform platform;
-    qputenv("XDG_DATA_HOME", home);
-    QTranslator texts;
-    if (!loadCatalogue(texts,
-                       ApplicationBundle::ofRunningProgram().resourceFolder().value() +
-                           QStringLiteral("/translations"),
-                       QLocale::system().uiLanguages()))
-        return 1;
-    QCoreApplication::installTranslator(&texts);
-
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const StagePlatform platform(nullptr, QLocale::system().uiLanguages().value(0));
+    platform.writeHighscoreFile(contentsOf(arguments.at(1)));
     MemoryGame().openHighscoresHTML();
-    std::fputs(qUtf8Printable(platform.openedFiles.paths.join(u' ')), stdout);
-    return platform.openedFiles.paths.size() == 1 ? 0 : 1;
+    return QFile::copy(platform.openedFiles.paths.join(u' '), arguments.at(2)) ? 0 : 1;
 }

@@ -8,14 +8,9 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Tries one input; what the fuzzer calls, and replay.cpp with each stored input.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
-/// A copy of its own, so that whatever reads beyond its end is seen.
-inline QByteArray bytesOf(const std::uint8_t* data, std::size_t size)
-{
-    return {reinterpret_cast<const char*>(data), qsizetype(size)};
-}
+/// Tries one input, a copy of its own, so that whatever reads beyond its end is seen.
+/// fuzzer.cpp calls it with what the fuzzer makes up, replay.cpp with each stored input.
+void tryInput(const QByteArray& input);
 
 /// Ends the process as a crash does where the program breaks this promise.
 inline void require(bool holds, const char* promise)

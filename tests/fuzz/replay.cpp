@@ -15,9 +15,7 @@ int main(int argc, char* argv[])
         require(file.open(QIODevice::ReadOnly), "a stored input can be read");
         // Without the fuzzer nothing else tells which one it was.
         (void)std::fprintf(stderr, "%s\n", qPrintable(file.fileName()));
-        const QByteArray input = file.readAll();
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.constData()),
-                               std::size_t(input.size()));
+        tryInput(file.readAll());
         ++tried;
     }
     return tried > 0 ? 0 : 1;

@@ -10,31 +10,25 @@
 
 namespace {
 
-/// As UTF-8 can keep it: without halves of surrogate pairs.
-QString kept(const QString& text)
-{
-    return QString::fromUtf8(text.toUtf8());
-}
-
+/// Texts as UTF-8 can keep them: without halves of surrogate pairs.
 auto fieldsOf(const HighscoreEntry& entry)
 {
-    const auto keptIf = [](const std::optional<QString>& text) {
-        return text ? std::optional(kept(*text)) : text;
+    const auto kept = [](const std::optional<QString>& text) {
+        return text ? std::optional(text->toUtf8()) : std::nullopt;
     };
     return std::tuple(entry.id, kept(entry.gameMode), kept(entry.playerName),
-                      keptIf(entry.secondPlayerName), keptIf(entry.winnerName),
-                      entry.elapsedSeconds, entry.failedAttempts, entry.firstPlayerScore,
-                      entry.secondPlayerScore, entry.amountCards, entry.amountRounds);
+                      kept(entry.secondPlayerName), kept(entry.winnerName), entry.elapsedSeconds,
+                      entry.failedAttempts, entry.firstPlayerScore, entry.secondPlayerScore,
+                      entry.amountCards, entry.amountRounds);
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+void tryInput(const QByteArray& input)
 {
-    const HighscoreEntries entries = entriesFrom(Pieces(bytesOf(data, size)));
+    const HighscoreEntries entries = entriesFrom(Pieces(input));
     const auto readBack = decodeHighscores(encodeHighscores(entries));
     require(readBack.has_value(), "what is written can be read");
     require(std::ranges::equal(*readBack, entries, {}, fieldsOf, fieldsOf),
             "what is read is what was written");
-    return 0;
 }

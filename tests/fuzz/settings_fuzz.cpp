@@ -12,12 +12,12 @@
 
 #include <cmath>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+void tryInput(const QByteArray& input)
 {
     using namespace SettingsKeys;
     static const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Paircade.conf"));
-    writeFile(path, bytesOf(data, size));
+    writeFile(path, input);
 
     UserDefaults defaults(path);
     const bool hadRounds = defaults.contains(AmountRounds);
@@ -42,5 +42,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     PhotoAccessStore copy(path);
     require(answer == PhotoAccess{} || (copy.write(answer) && copy.read() == answer),
             "an answer that was read can be kept");
-    return 0;
 }

@@ -12,7 +12,7 @@ import subprocess
 import sys
 import zlib
 
-from PIL import Image, ImageDraw
+from PIL import Image
 
 WIDTH, HEIGHT = 96, 64
 ORIENTATION = 0x0112
@@ -20,23 +20,20 @@ ORIENTATION = 0x0112
 STORED = {1: None, 2: Image.FLIP_LEFT_RIGHT, 3: Image.ROTATE_180, 4: Image.FLIP_TOP_BOTTOM,
           5: Image.TRANSPOSE, 6: Image.ROTATE_90, 7: Image.TRANSVERSE, 8: Image.ROTATE_270}
 
-folder = pathlib.Path(sys.argv[1])
-good, bad = folder / "good", folder / "bad"
-for made in (good, bad):
-    made.mkdir(parents=True, exist_ok=True)
+good, bad = (pathlib.Path(sys.argv[1]) / name for name in ("good", "bad"))
+good.mkdir(parents=True)
+bad.mkdir()
 
 
-def ffmpeg(*arguments):
-    subprocess.run(["ffmpeg", "-v", "error", "-nostdin", "-y", *map(str, arguments)], check=True)
+def convert(*options):
+    """The upright picture once more, as the options of ffmpeg say."""
+    subprocess.run(["ffmpeg", "-nostdin", "-loglevel", "error", "-i", good / "plain.png",
+                    *options], check=True)
 
 
 def drawn(width=WIDTH, height=HEIGHT):
-    picture = Image.new("RGB", (width, height), (220, 40, 40))
-    pen = ImageDraw.Draw(picture)
-    pen.rectangle((width // 2, 0, width, height // 2 - 1), (40, 180, 60))
-    pen.rectangle((0, height // 2, width // 2 - 1, height), (40, 60, 220))
-    pen.rectangle((width // 2, height // 2, width, height), (230, 220, 50))
-    return picture
+    quarters = bytes((220, 40, 40, 40, 180, 60, 40, 60, 220, 230, 220, 50))
+    return Image.frombytes("RGB", (2, 2), quarters).resize((width, height), Image.NEAREST)
 
 
 picture = drawn()
@@ -58,29 +55,25 @@ for orientation, change in STORED.items():
     stored = picture if change is None else picture.transpose(change)
     exif = Image.Exif()
     exif[ORIENTATION] = orientation
-    stored.save(good / f"turned{orientation}.jpg", quality=95, exif=exif)
-    stored.save(good / f"turned{orientation}.png", exif=exif)
-    stored.save(good / f"turned{orientation}.webp", lossless=True, exif=exif)
-    stored.save(good / f"turned{orientation}.tiff", tiffinfo={ORIENTATION: orientation})
+    for kind in ("jpg", "png", "webp", "tiff"):
+        stored.save(good / f"turned{orientation}.{kind}", quality=95, lossless=True, exif=exif)
 
-ffmpeg("-i", good / "plain.png", "-flags", "ildct", good / "interlaced.png")
-ffmpeg("-i", good / "plain.png", "-pix_fmt", "rgb48", good / "deep.png")
+convert("-flags", "+ildct", good / "interlaced.png")
+convert("-pix_fmt", "rgb48", good / "deep.png")
 # Films of five seconds that begin in black.
 for name, codec in (("film.mp4", "libx264"), ("film.webm", "libvpx")):
-    ffmpeg("-f", "lavfi", "-i", "color=black:s=96x64:d=2", "-loop", 1, "-t", 3,
-           "-i", good / "plain.png", "-filter_complex", "[0][1]concat,format=yuv420p", "-r", 10,
-           "-c:v", codec, "-crf", 10, "-b:v", "1M", good / name)
+    convert("-vf", "tpad=start_duration=2:stop_mode=clone:stop_duration=3,format=yuv420p",
+            "-r", "10", "-c:v", codec, "-crf", "10", "-b:v", "1M", good / name)
 
 for name in ("large.JPG", "progressive.jpeg", "large.png", "interlaced.png", "lossless.webp",
              "tagged.tif"):
     whole = (good / name).read_bytes()
     (bad / f"cut-{name}").write_bytes(whole[:len(whole) * 6 // 10])
-jpeg = (good / "plain.jpg").read_bytes()
+jpeg, bitmap, portable = ((good / name).read_bytes()
+                          for name in ("plain.jpg", "plain.bmp", "plain.png"))
 frame = jpeg.index(b"\xff\xc0") + 5
 (bad / "huge.jpg").write_bytes(jpeg[:frame] + struct.pack(">HH", 65500, 65500) + jpeg[frame + 4:])
-bitmap = (good / "plain.bmp").read_bytes()
 (bad / "huge.bmp").write_bytes(bitmap[:18] + struct.pack("<ii", 65500, 65500) + bitmap[26:])
-portable = (good / "plain.png").read_bytes()
 header = b"IHDR" + struct.pack(">II", 65500, 65500) + portable[24:29]
 (bad / "huge.png").write_bytes(portable[:12] + header + struct.pack(">I", zlib.crc32(header)) +
                                portable[33:])
@@ -89,7 +82,7 @@ Image.new("1", (9000, 6000)).save(bad / "sixty-megapixels.tif", compression="gro
 (bad / "empty.jpg").touch()
 (bad / "noise.jpg").write_bytes(jpeg[:20] + bytes(range(256)) * 20)
 (bad / "drawing.png").write_text(
-    '<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><rect width="9" height="9"/></svg>')
+    '<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><path d="M0 0h9v9"/></svg>')
 (bad / "page.jpg").write_text("%PDF-1.4\n1 0 obj<<>>endobj\n")
 (bad / "list.mp4").write_text("#EXTM3U\n#EXTINF:5,\nfilm.mp4\n")
 (bad / "list.webm").write_text(f"ffconcat version 1.0\nfile {good / 'film.mp4'}\n")

@@ -4,7 +4,6 @@
 window manager. The session bus is that of dbus-run-session, around the whole script."""
 import os
 import shutil
-import signal
 import subprocess
 import tempfile
 import time
@@ -52,8 +51,7 @@ class Desk:
         number = server.stdout.readline().decode().strip()
         os.environ["DISPLAY"] = ":" + number
         self.start("openbox")
-        end = time.monotonic() + 10
-        while time.monotonic() < end:
+        for _ in range(200):
             answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"],
                                     capture_output=True, check=False, timeout=10)
             if b"0x" in answer.stdout:
@@ -70,12 +68,12 @@ class Desk:
     def write_settings(self, **settings):
         folder = self.home / "config" / "Paircade"
         folder.mkdir(parents=True, exist_ok=True)
-        lines = [f"{key}={value}" for key, value in settings.items()]
-        (folder / "Paircade.conf").write_text("[General]\n" + "\n".join(lines) + "\n")
+        (folder / "Paircade.conf").write_text("[General]\n" + "".join(
+            f"{key}={value}\n" for key, value in settings.items()))
 
     def close(self):
         for process in reversed(self.processes):
-            process.send_signal(signal.SIGTERM)
+            process.terminate()
             try:
                 process.wait(5)
             except subprocess.TimeoutExpired:

@@ -76,8 +76,7 @@ class Game:
         DESK.write_settings(CardDeck="Kids", PlaySounds=0, **settings)
         self.said = []
         self.heard = 0  # of them
-        for kind in HEARD:
-            pyatspi.Registry.registerEventListener(self.hear, kind)
+        pyatspi.Registry.registerEventListener(self.hear, *HEARD)
         self.process = DESK.start(PROGRAM)
         self.application = self.until(lambda: next(
             (one for one in pyatspi.Registry.getDesktop(0)
@@ -86,11 +85,10 @@ class Game:
         self.window = self.application[0]
 
     def hear(self, event):
-        if event.type.startswith("object:announcement"):
-            self.said.append(event.any_data)
-            return
         try:
-            if event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+            if event.type.startswith("object:announcement"):
+                self.said.append(event.any_data)
+            elif event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
                 self.said.append(event.source[0].name)
         except GLib.Error:
             pass  # a widget that is gone again
@@ -164,8 +162,7 @@ class Game:
         self.until(lambda: f"{key}={value}" in file.read_text().splitlines(), f"{key}={value}")
 
     def close(self):
-        for kind in HEARD:
-            pyatspi.Registry.deregisterEventListener(self.hear, kind)
+        pyatspi.Registry.deregisterEventListener(self.hear, *HEARD)
         self.process.terminate()
         if status := self.process.wait(20):
             raise AssertionError(f"the game ended with status {status}")
@@ -181,28 +178,21 @@ class ReaderTest(unittest.TestCase):
     def find_all(self, header, end):
         """Finds all pairs of a board by memory. header(event) is what the line above the
         board then says, end() what follows the last pair."""
-        game, known, unseen = self.game, {}, list(range(12))
+        game, left, known = self.game, list(range(12)), {}
         self.assertEqual([shown for _, shown in game.cards()], [HIDDEN] * 12)
-        left = 6
-        while left:
-            first = next((one for one in known if list(known.values()).count(known[one]) == 2),
-                         None)
-            if first is None:
-                first = unseen.pop(0)
-            known[first] = name = game.turn(first)
+        while True:
+            first = left[0]
+            name = game.turn(first)
             game.expect(name + "." + header("first"))
             self.assertEqual(game.given_away(), [])
-            second = next((one for one in known if one != first and known[one] == name), None)
-            if second is None:
-                second = unseen.pop(0)
-            if left == 1:
+            second = next(one for one in left[1:] if known.get(one, name) == name)
+            if len(left) == 2:
                 act(game.cards()[second][0], "Press")
                 game.expect(f"A pair: {name}." + header("pair") + end())
                 return
             known[second] = game.turn(second)
             if known[second] == name:
-                del known[first], known[second]
-                left -= 1
+                left = [one for one in left if one not in (first, second)]
                 game.expect(f"A pair: {name}." + header("pair"))
             else:
                 self.misses += 1
