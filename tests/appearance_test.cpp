@@ -4,6 +4,7 @@
 // starts one for this test, and a portal of its own answers on it.
 #include "platform/widgets/appearance.h"
 #include "platform/widgets/palettes.h"
+#include "support/rows.h"
 #include "ui/turning_card.h"
 
 #include <QApplication>
@@ -17,7 +18,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -79,14 +79,7 @@ class AppearanceTest : public QObject {
 private Q_SLOTS:
     void wishesAreTakenAtTheStart_data()
     {
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("wishes");
-        const auto row = [](const char* name, const QString& group, const QString& key,
-                            const QVariant& value, const QString& wishes) {
-            QTest::newRow(name) << group << key << value << wishes;
-        };
+        const Rows<QString, QString, QVariant, QString> row{"group", "key", "value", "wishes"};
         row("no wish", appearance, u"color-scheme"_s, 0U, {});
         row("dark", appearance, u"color-scheme"_s, 1U, u"dark"_s);
         row("light", appearance, u"color-scheme"_s, 2U, {});
@@ -108,14 +101,10 @@ private Q_SLOTS:
         portal.settings[{group, key}] = value;
         const Appearance followed;
         QTest::qWait(150);
-        QStringList wishes;
-        if (isDark())
-            wishes << u"dark"_s;
-        if (Appearance::isContrastHigh())
-            wishes << u"contrast"_s;
-        if (Appearance::isMotionReduced())
-            wishes << u"stillness"_s;
-        QTEST(wishes.join(u' '), "wishes");
+        const QString wishes = u"dark"_s.repeated(isDark()) +
+                               u"contrast"_s.repeated(Appearance::isContrastHigh()) +
+                               u"stillness"_s.repeated(Appearance::isMotionReduced());
+        QTEST(wishes, "wishes");
     }
 
     void changesAreFollowed()

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where everything lies, how large it is and in which font, measured on the real
 // window; and that all of it can be read and reached on small and large screens.
-#include "highscores/highscore_file.h"
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
+#include "support/results.h"
+#include "support/rows.h"
 #include "support/texts_fit.h"
+#include "ui/elided_label.h"
 
 #include <QFontDatabase>
 #include <QLineEdit>
@@ -15,24 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// `count` results of each mode for `layout`, by players called `name`.
-void writeResults(StagePlatform& platform, qint64 layout, int count, const QString& name)
-{
-    HighscoreEntries entries;
-    for (int i = 0; i < count; ++i) {
-        for (const QLatin1String mode : {soloMode, versusMode})
-            entries.push_back({.gameMode = mode,
-                               .playerName = name,
-                               .secondPlayerName = name,
-                               .elapsedSeconds = 11 + i,
-                               .failedAttempts = 11 + i,
-                               .firstPlayerScore = 11 + i,
-                               .amountCards = layout,
-                               .amountRounds = 1});
-    }
-    platform.writeHighscoreFile(encodeHighscores(entries));
-}
 
 enum class Mode { solo, versus, both };
 
@@ -153,16 +137,14 @@ private Q_SLOTS:
 private:
     static void addRows(std::initializer_list<int> layouts, const QStringList& languages)
     {
-        QTest::addColumn<int>("layout");
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<bool>("isFullScreen");
+        const Rows<int, QString, bool> row{"layout", "language", "isFullScreen"};
         for (const int layout : layouts) {
             for (const QString& language : languages) {
                 const QByteArray name = language.toUtf8() + char('0' + layout);
-                QTest::newRow(name) << layout << language << false;
+                row(name, layout, language, false);
                 // More room is a matter of the layout, not of the language.
                 if (language == u"en")
-                    QTest::newRow(name + ", full screen") << layout << language << true;
+                    row((name + ", full screen").constData(), layout, language, true);
             }
         }
     }
@@ -177,7 +159,11 @@ private:
             [&](StagePlatform& platform) {
                 platform.defaults->setInteger(SettingsKeys::AmountCards, layout);
                 platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, isFullScreen);
-                writeResults(platform, layout, count, name);
+                writeResults(platform, count,
+                             {.playerName = name,
+                              .secondPlayerName = name,
+                              .firstPlayerScore = 11,
+                              .amountCards = layout});
             },
             language);
         QTRY_COMPARE(m_window->window().isFullScreen(), isFullScreen);
@@ -347,9 +333,8 @@ private:
         QWidgetList widgets = screen().findChildren<QWidget*>();
         widgets.removeIf([](const QWidget* widget) {
             return !widget->isVisible() ||
-                   (qobject_cast<const QLabel*>(widget) == nullptr &&
-                    qobject_cast<const QLineEdit*>(widget) == nullptr &&
-                    qobject_cast<const QAbstractButton*>(widget) == nullptr);
+                   !(widget->inherits("QLabel") || widget->inherits("QLineEdit") ||
+                     widget->inherits("QAbstractButton"));
         });
         for (QWidget* const widget : widgets) {
             const QByteArray name = widget->objectName().toUtf8();

@@ -4,8 +4,8 @@
 #include "platform/widgets/access_dialog.h"
 #include "platform/widgets/access_question.h"
 #include "platform/widgets/palettes.h"
-#include "settings/settings_keys.h"
 #include "stage/game_window.h"
+#include "support/rows.h"
 #include "support/texts_fit.h"
 #include "ui/colours.h"
 
@@ -34,28 +34,22 @@ double contrast(const QColor& one, const QColor& other)
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// The texts of what can be chosen by Alt and a letter on a screen, in use or not.
-QStringList mnemonics(QWidget& screen)
+/// The texts of what can be chosen by Alt and a letter on a screen or in a
+/// menu, in use or not.
+QStringList mnemonics(const QWidget& screen)
 {
     QStringList texts;
     for (const auto* const widget : screen.findChildren<QWidget*>()) {
         const QString text = widget->property("text").toString();
-        const bool isButton = qobject_cast<const QAbstractButton*>(widget) != nullptr &&
-                              !widget->objectName().startsWith(u"card"_s);
-        const bool isCaption =
-            qobject_cast<const QLabel*>(widget) != nullptr && text.contains(u'&');
+        const bool isButton =
+            widget->inherits("QAbstractButton") && !widget->objectName().startsWith(u"card"_s);
+        const bool isCaption = widget->inherits("QLabel") && text.contains(u'&');
         if (widget->isVisible() && (isButton || isCaption))
             texts << text;
     }
-    return texts;
-}
-
-QStringList texts(const QList<QAction*>& actions)
-{
-    QStringList texts;
-    for (const QAction* const action : actions) {
-        if (!action->isSeparator())
-            texts << action->text();
+    for (const QAction* const item : screen.actions()) {
+        if (!item->isSeparator())
+            texts << item->text();
     }
     return texts;
 }
@@ -79,15 +73,12 @@ class KeyboardTest : public QObject {
 private Q_SLOTS:
     void tabGoesInReadingOrder_data()
     {
-        QTest::addColumn<QString>("names");
-        QTest::addColumn<bool>("isStarted");
-        QTest::addColumn<QString>("stops"); // after those of the sidebar
-        QTest::newRow("one player")
-            << u"Ann"_s << false << u"versusCheckbox playerName startButton"_s;
-        QTest::newRow("two players")
-            << u"Ann Ben"_s << false
-            << u"versusCheckbox playerOneName playerTwoName startVersusButton"_s;
-        QTest::newRow("a game: the board is one stop") << u"Ann"_s << true << u"endButton card5"_s;
+        // The stops are those after the sidebar's buttons.
+        const Rows<QString, bool, QString> row{"names", "isStarted", "stops"};
+        row("one player", u"Ann"_s, false, u"versusCheckbox playerName startButton"_s);
+        row("two players", u"Ann Ben"_s, false,
+            u"versusCheckbox playerOneName playerTwoName startVersusButton"_s);
+        row("a game: the board is one stop", u"Ann"_s, true, u"endButton card5"_s);
     }
 
     void tabGoesInReadingOrder()
@@ -124,26 +115,28 @@ private Q_SLOTS:
 
     void everyControlHasItsLetterAndRoom_data()
     {
-        QTest::addColumn<QString>("language");
+        const Rows<QString> row{"language"};
         for (const QString& language : StagePlatform::languages())
-            QTest::newRow(qPrintable(language)) << language;
+            row(qPrintable(language), language);
     }
 
     void everyControlHasItsLetterAndRoom()
     {
         QFETCH(QString, language);
         GameWindow window([](StagePlatform&) {}, language);
-        const QStringList menus = texts(window.window().menuBar()->actions());
-        for (const QAction* const menu : window.window().menuBar()->actions())
-            checkMnemonics(texts(menu->menu()->actions()));
+        const QMenuBar& menus = *window.window().menuBar();
+        for (const QAction* const menu : menus.actions())
+            checkMnemonics(mnemonics(*menu->menu()));
 
-        checkMnemonics(menus + mnemonics(window.window()));
-        window.click(u"versusCheckbox"_s);
-        checkMnemonics(menus + mnemonics(window.window()));
-        window.click(u"versusCheckbox"_s);
-        window.child<QWidget>(u"playerName"_s).setFocus();
+        const auto checkScreen = [&] {
+            checkMnemonics(mnemonics(menus) + mnemonics(window.window()));
+        };
+        checkScreen();
         window.startGame();
-        checkMnemonics(menus + mnemonics(window.window()));
+        checkScreen();
+        window.choose(u"menu_end_game"_s);
+        window.click(u"versusCheckbox"_s);
+        checkScreen();
 
         for (const auto status : {PhotoAuthorization::notDetermined, PhotoAuthorization::denied}) {
             window.platform.photos.status = status;
@@ -196,15 +189,6 @@ private Q_SLOTS:
         QVERIFY(!window.game().isGameActive());
         window.press(Qt::Key_Return);
         QVERIFY(window.game().isGameActive());
-    }
-
-    void cardsAreNamedByTheirOwnBoard()
-    {
-        GameWindow window;
-        window.platform.defaults->setInteger(SettingsKeys::AmountCards, 6); // from the next game
-        window.startGame();
-        QVERIFY2(window.card(39).accessibleName().startsWith(u"Row 5, column 8"_s),
-                 qPrintable(window.card(39).accessibleName()));
     }
 
     void theFocusIsSeenOnEverySurface_data()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The choice of the deck in the preferences.
 #include "support/pane_window.h"
+#include "support/rows.h"
 
 #include <QCheckBox>
 #include <QSignalSpy>
@@ -14,14 +15,12 @@ class PreferencesDecksTest : public QObject {
 private Q_SLOTS:
     void theMenuOffersAlbumsOnce_data()
     {
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QStringList>("albums");
-        QTest::addColumn<QString>("photos");
+        const Rows<int, QStringList, QString> row{"status", "albums", "photos"};
         const QStringList albums{QString(), u"iPhoto: bee"_s, u"iPhoto: Cat"_s, u"iPhoto: Trip"_s};
-        QTest::newRow("never asked") << 0 << QStringList() << u"Not asked yet"_s;
-        QTest::newRow("denied") << 2 << QStringList() << u"No access"_s;
-        QTest::newRow("authorized") << 3 << albums << u"All pictures"_s;
-        QTest::newRow("limited") << 4 << albums << u"Only “<Garden>”"_s;
+        row("never asked", 0, {}, u"Not asked yet"_s);
+        row("denied", 2, {}, u"No access"_s);
+        row("authorized", 3, albums, u"All pictures"_s);
+        row("limited", 4, albums, u"Only “<Garden>”"_s);
     }
 
     void theMenuOffersAlbumsOnce()

@@ -4,6 +4,7 @@
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
+#include "support/rows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,26 +15,10 @@ private Q_SLOTS:
     void init() { m_window = std::make_unique<GameWindow>(); }
     void cleanup() { m_window.reset(); }
 
-    void aNameReturnAndSpaceTurnTheFirstCard()
-    {
-        m_window->platform.writeHighscoreFile("[]");
-        QCOMPARE(m_window->focused(), u"playerName"_s);
-        // No pause between the keys: each acts on what the last one led to.
-        m_window->type(u"Ann"_s);
-        m_window->press(Qt::Key_Return);
-        m_window->press(Qt::Key_Space);
-        QCOMPARE(m_window->focused(), u"card0"_s);
-        QVERIFY(game().cards()[0].isFaceUp);
-        QCOMPARE(faceUpCards(game()), 1);
-        QCOMPARE(m_window->platform.readHighscoreFile(), "[]"_ba);
-    }
-
     void aWholeGameByMouse()
     {
         // A name of nothing but blanks starts nothing.
-        m_window->type(u"  "_s);
-        m_window->press(Qt::Key_Return);
-        QCoreApplication::processEvents();
+        m_window->startGame(u"  "_s);
         QVERIFY(!isVisible(u"nameLine"_s) && !game().isGameActive());
         QVERIFY(!m_window->child<QWidget>(u"startButton"_s).isEnabled());
         QVERIFY(m_window->text(u"headerText"_s).isEmpty());
@@ -53,8 +38,7 @@ private Q_SLOTS:
         QVERIFY(m_window->platform.readHighscoreFile().contains("\"playerName\": \"Ann\""));
 
         // The next start takes the result away.
-        m_window->press(Qt::Key_Return);
-        QCoreApplication::processEvents();
+        m_window->startGame({});
         QCOMPARE(m_window->text(u"headerText"_s), u"Round 1 of 1"_s);
     }
 
@@ -72,8 +56,11 @@ private Q_SLOTS:
 
     void aWholeGameByKeyboard()
     {
-        m_window->startGame();
+        // No pause between the keys: each acts on what the last one led to.
+        m_window->type(u"Ann"_s);
+        m_window->press(Qt::Key_Return);
         m_window->repeat(Qt::Key_Return, u"\r"_s); // the key that started
+        QCOMPARE(m_window->focused(), u"card0"_s);
         QCOMPARE(faceUpCards(game()), 0);
         while (game().isGameActive()) {
             const std::size_t first = hiddenCard(game());
@@ -93,25 +80,27 @@ private Q_SLOTS:
 
     void arrowsStopAtTheEdges()
     {
+        m_window->platform.defaults->setInteger(SettingsKeys::AmountCards, 6); // from this game on
         m_window->startGame();
         const QList<std::pair<Qt::Key, int>> path{
-            {Qt::Key_Left, 0}, {Qt::Key_Up, 0},    {Qt::Key_Right, 1}, {Qt::Key_Down, 5},
-            {Qt::Key_End, 7},  {Qt::Key_Right, 7}, {Qt::Key_Down, 11}, {Qt::Key_Down, 11},
-            {Qt::Key_Home, 8}, {Qt::Key_Left, 8},  {Qt::Key_Up, 4}};
+            {Qt::Key_Left, 0},  {Qt::Key_Up, 0},    {Qt::Key_Right, 1}, {Qt::Key_Down, 9},
+            {Qt::Key_Down, 17}, {Qt::Key_Down, 25}, {Qt::Key_End, 31},  {Qt::Key_Right, 31},
+            {Qt::Key_Down, 39}, {Qt::Key_Down, 39}, {Qt::Key_Home, 32}, {Qt::Key_Left, 32},
+            {Qt::Key_Up, 24}};
         for (const auto& [key, position] : path) {
             m_window->press(key);
             QCOMPARE(m_window->focused(), u"card%1"_s.arg(position));
         }
         m_window->press(Qt::Key_End, Qt::ControlModifier);
-        QCOMPARE(m_window->focused(), u"card11"_s);
+        QCOMPARE(m_window->focused(), u"card39"_s);
+        QCOMPARE(m_window->card(39).accessibleName(), u"Row 5, column 8, face down"_s);
     }
 
     void aMissBlocksClicksAndTurnsBackUnderOrAfterAnAlert_data()
     {
-        QTest::addColumn<bool>("isReport");
-        QTest::addColumn<std::ptrdiff_t>("openMeanwhile");
-        QTest::newRow("of the report, shown at once") << true << std::ptrdiff_t{0};
-        QTest::newRow("queued, holding back what falls due") << false << std::ptrdiff_t{2};
+        const Rows<bool, std::ptrdiff_t> row{"isReport", "openMeanwhile"};
+        row("of the report, shown at once", true, 0);
+        row("queued, holding back what falls due", false, 2);
     }
 
     void aMissBlocksClicksAndTurnsBackUnderOrAfterAnAlert()
@@ -135,9 +124,9 @@ private Q_SLOTS:
         }
         QTRY_VERIFY(open >= 0 && QApplication::activeModalWidget() == nullptr);
         QTEST(open, "openMeanwhile");
-        QTRY_COMPARE(faceUpCards(game()), std::ptrdiff_t{0});
+        QTRY_COMPARE(faceUpCards(game()), 0);
         m_window->clickPair();
-        QCOMPARE(faceUpCards(game()), std::ptrdiff_t{2});
+        QCOMPARE(faceUpCards(game()), 2);
     }
 
     void aVersusGameByMouse()
@@ -151,9 +140,7 @@ private Q_SLOTS:
         m_window->type(u"Ann"_s);
         m_window->press(Qt::Key_Tab);
         QVERIFY(!m_window->child<QWidget>(u"startVersusButton"_s).isEnabled());
-        m_window->type(u"Ben"_s);
-        m_window->press(Qt::Key_Return);
-        QCoreApplication::processEvents();
+        m_window->startGame(u"Ben"_s); // in vain: Return only ends the name
         QVERIFY(!game().isGameActive());
         m_window->click(u"startVersusButton"_s);
         QVERIFY(game().isGameActive());
@@ -200,10 +187,9 @@ private Q_SLOTS:
     {
         m_window->type(u"Ann"_s);
         QCoreApplication::processEvents();
-        const QWidget& start = m_window->child<QWidget>(u"startButton"_s);
         // A card lies there afterwards.
-        const QPoint place = start.mapTo(&m_window->window(), QPoint(10, 5));
-        QTest::mouseDClick(m_window->window().windowHandle(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(m_window->window().windowHandle(), Qt::LeftButton, {},
+                           placeOn(u"startButton"_s));
         QCoreApplication::processEvents();
         QVERIFY(game().isGameActive());
         QCOMPARE(faceUpCards(game()), 0);
@@ -239,9 +225,7 @@ private Q_SLOTS:
         };
         whenAlerted(look);
         m_window->startGame();
-        QTRY_COMPARE(shown.size(), 2);
-        QCOMPARE(shown[0], localizedText("iphoto_access_denied"));
-        QCOMPARE(shown[1], u"Paircade"_s);
+        QTRY_COMPARE(shown, QStringList({localizedText("iphoto_access_denied"), u"Paircade"_s}));
         QTRY_COMPARE(m_window->focused(), u"playerName"_s);
     }
 
@@ -252,8 +236,11 @@ private:
     /// Clicks without letting anything happen before or after.
     void pressAt(const QString& name)
     {
-        QTest::mouseClick(m_window->window().windowHandle(), Qt::LeftButton, {},
-                          m_window->child<QWidget>(name).mapTo(&m_window->window(), QPoint(5, 5)));
+        QTest::mouseClick(m_window->window().windowHandle(), Qt::LeftButton, {}, placeOn(name));
+    }
+    QPoint placeOn(const QString& name)
+    {
+        return m_window->child<QWidget>(name).mapTo(&m_window->window(), QPoint(10, 5));
     }
 
     /// Goes to the card and presses the key there.
