@@ -22,15 +22,11 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 const QString path = u"/org/freedesktop/portal/desktop"_s;
 const QString interface = u"org.freedesktop.portal.Settings"_s;
 const QString appearance = u"org.freedesktop.appearance"_s;
 const QString oldMotion = u"org.gnome.desktop.interface"_s;
 const QString oldContrast = u"org.gnome.desktop.a11y.interface"_s;
-
-} // namespace
 
 /// Answers as the settings portal of a desktop does.
 class Portal : public QObject {

@@ -10,25 +10,8 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
-#include <QStyleOptionSlider>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Where the handle of the slider is in its window.
-QPoint handleOf(const QSlider& slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(&slider);
-    option.maximum = slider.maximum();
-    option.sliderPosition = option.sliderValue = slider.value();
-    const QRect handle = slider.style()->subControlRect(QStyle::CC_Slider, &option,
-                                                        QStyle::SC_SliderHandle, &slider);
-    return slider.mapTo(slider.window(), handle.center());
-}
-
-} // namespace
 
 class PreferencesTest : public QObject {
     Q_OBJECT
@@ -128,20 +111,6 @@ private Q_SLOTS:
         QCOMPARE(Preferences::cardLayoutLabel(0), u"0"_s);
     }
 
-    void aRunningGameLocksTheSteppers()
-    {
-        PaneWindow window("AmountCards=1\nAmountRounds=2\n");
-        window.startGame();
-        QSpinBox& rounds = *window.pane->roundsStepper();
-        QVERIFY(!rounds.isEnabled() && !window.pane->cardsStepper()->isEnabled());
-        QCOMPARE(rounds.toolTip(), u"Can be changed when the game is over."_s);
-        QCOMPARE(rounds.accessibleDescription(), rounds.toolTip());
-        window.choose(u"menu_end_game"_s);
-        QVERIFY(rounds.isEnabled() && window.pane->cardsStepper()->isEnabled());
-        QVERIFY(rounds.toolTip().isEmpty());
-        QCOMPARE(rounds.accessibleDescription(), u"2 rounds per game"_s);
-    }
-
     void checkBoxesAreStoredAtOnce()
     {
         PaneWindow window("RemoveMatch=2\nPlaySounds=2\nLaunchInFullscreen=2\n");
@@ -160,12 +129,8 @@ private Q_SLOTS:
 
     void theVolumeIsStoredAndHeardWhenAChangeEnds()
     {
-        PaneWindow window("VolumeSound=50\nPlaySounds=0\n", [](StagePlatform& platform) {
-            const QString sound = u"/Sounds/card_done.mp3"_s;
-            const QString shipped = *ApplicationBundle::ofRunningProgram().resourceFolder();
-            QDir().mkpath(platform.home.filePath(u"Sounds"_s));
-            QVERIFY(QFile::copy(shipped + sound, platform.home.path() + sound));
-        });
+        PaneWindow window("VolumeSound=50\nPlaySounds=0\n",
+                          [](StagePlatform& platform) { platform.useBuiltResources(); });
         const QString recording = window.platform.home.filePath(u"recording.raw"_s);
         qputenv("SDL_AUDIODRIVER", "disk");
         qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(recording));
@@ -175,7 +140,7 @@ private Q_SLOTS:
         };
         auto& volume = window.child<QSlider>(u"volumeSound"_s);
         QWindow* const handle = window.pane->windowHandle();
-        const QPoint from = handleOf(volume);
+        const QPoint from = volume.mapTo(window.pane, volume.rect().center()); // its handle
         QTest::mousePress(handle, Qt::LeftButton, {}, from);
         for (int way = 10; way <= 70; way += 10)
             QTest::mouseMove(handle, from + QPoint(way, 0));
@@ -186,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(stored("VolumeSound"), QByteArray::number(volume.value()));
 
         QSignalSpy written(window.platform.defaults.get(), &UserDefaults::written);
-        QTest::mouseClick(handle, Qt::LeftButton, {}, handleOf(volume));
+        QTest::mouseClick(handle, Qt::LeftButton, {}, from + QPoint(70, 0));
         QCOMPARE(written.count(), 0);
         volume.setFocus();
         window.key(Qt::Key_Home);
@@ -205,18 +170,27 @@ private Q_SLOTS:
         qputenv("SDL_AUDIODRIVER", "dummy");
     }
 
-    void whatAnotherProgramWritesMeanwhileIsKept()
+    void aRunningGameLocksTheSteppersAndKeepsWhatOthersWrite()
     {
         PaneWindow window("AmountRounds=2\nAmountCards=2\nCardDeck=Kids\n");
         makeDeck(window.resources(), u"70s"_s, 24);
         writeSettings("AmountRounds=5\nAmountCards=5\nCardDeck=70s\nForeign=kept\n");
-        QCOMPARE(window.pane->roundsStepper()->value(), 2);
+        const QSpinBox& rounds = *window.pane->roundsStepper();
+        QCOMPARE(rounds.value(), 2);
         window.startGame(); // reads the file; the open pane's steppers win
         QCOMPARE(stored("AmountRounds"), "2"_ba);
         QCOMPARE(stored("AmountCards"), "2"_ba);
         QCOMPARE(stored("CardDeck"), "70s"_ba);
         QCOMPARE(stored("Foreign"), "kept"_ba);
+
+        // Meanwhile they are locked.
+        QVERIFY(!rounds.isEnabled() && !window.pane->cardsStepper()->isEnabled());
+        QCOMPARE(rounds.toolTip(), u"Can be changed when the game is over."_s);
+        QCOMPARE(rounds.accessibleDescription(), rounds.toolTip());
         window.choose(u"menu_end_game"_s);
+        QVERIFY(rounds.isEnabled() && window.pane->cardsStepper()->isEnabled());
+        QVERIFY(rounds.toolTip().isEmpty());
+        QCOMPARE(rounds.accessibleDescription(), u"2 rounds per game"_s);
 
         // Closed, the pane keeps nothing from the past.
         window.close();
