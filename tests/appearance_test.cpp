@@ -105,32 +105,6 @@ private Q_SLOTS:
 
     void changesAreFollowed()
     {
-        Portal portal;
-        const Appearance followed;
-        const QSignalSpy changes(&followed, &Appearance::changed);
-        QTest::qWait(100);
-        const QPalette before = QApplication::palette();
-        portal.change(appearance, u"color-scheme"_s, 1U);
-        QTRY_VERIFY(isDark());
-        portal.change(appearance, u"color-scheme"_s, 0U);
-        QTRY_VERIFY(!isDark());
-        QCOMPARE(QApplication::palette(), before);
-        portal.change(appearance, u"reduced-motion"_s, 1U);
-        QTRY_VERIFY(Appearance::isMotionReduced());
-        TurningCard card{MemoryCard()};
-        QVERIFY(card.show({.isFaceUp = true}, false) && !card.isMoving());
-        portal.change(appearance, u"reduced-motion"_s, 0U);
-        QTRY_VERIFY(!Appearance::isMotionReduced());
-        QCOMPARE(changes.size(), 2);
-    }
-
-    void highContrastOutlinesControls()
-    {
-        Portal portal;
-        portal.settings[{appearance, u"color-scheme"_s}] = 1U;
-        const Appearance followed;
-        QTRY_VERIFY(isDark());
-        const QPalette before = QApplication::palette();
         QCheckBox box;
         QComboBox menu;
         QSpinBox stepper;
@@ -145,13 +119,31 @@ private Q_SLOTS:
                 return picture.pixel(0, picture.height() / 2) == text;
             });
         };
+        Portal portal;
+        const Appearance followed;
+        const QSignalSpy changes(&followed, &Appearance::changed);
+        QTest::qWait(100);
+        const QPalette before = QApplication::palette();
+        portal.change(appearance, u"color-scheme"_s, 1U);
+        QTRY_VERIFY(isDark());
+        // High contrast outlines controls, and changes no colour.
+        const QPalette dark = QApplication::palette();
         QCOMPARE(outlined(), 0);
-        portal.change(appearance, u"contrast"_s, 1U);
-        QTRY_COMPARE(outlined(), 5);
+        for (const unsigned wish : {1U, 0U}) {
+            portal.change(appearance, u"contrast"_s, wish);
+            QTRY_COMPARE(outlined(), wish == 1 ? 5 : 0);
+            QCOMPARE(QApplication::palette(), dark);
+        }
+        portal.change(appearance, u"color-scheme"_s, 0U);
+        QTRY_VERIFY(!isDark());
         QCOMPARE(QApplication::palette(), before);
-        portal.change(appearance, u"contrast"_s, 0U);
-        QTRY_COMPARE(outlined(), 0);
-        QCOMPARE(QApplication::palette(), before);
+        portal.change(appearance, u"reduced-motion"_s, 1U);
+        QTRY_VERIFY(Appearance::isMotionReduced());
+        TurningCard card{MemoryCard()};
+        QVERIFY(card.show({.isFaceUp = true}, false) && !card.isMoving());
+        portal.change(appearance, u"reduced-motion"_s, 0U);
+        QTRY_VERIFY(!Appearance::isMotionReduced());
+        QCOMPARE(changes.size(), 4); // of contrast and motion
     }
 
     void cleanup() { QApplication::setPalette(Palettes::light()); }

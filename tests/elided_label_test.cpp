@@ -16,15 +16,13 @@ private Q_SLOTS:
     void namesGiveWayAndKeepTheirDirection_data()
     {
         const Rows<QStringList> row{"names"};
-        const QString longName(200, u'W');
-        row("one long name", {longName});
-        row("long and short", {longName, u"Ann"_s});
-        row("two long ones", {longName, longName});
-        row("two that differ at the end",
-            {longName + u" 1\U0001F98A"_s, longName + u" 2\U0001F98B"_s});
-        row("two that differ in the middle",
-            {longName + u'a' + longName, longName + u'b' + longName});
-        row("one begins with the other", {longName, longName + u"X"_s});
+        const QString wide(200, u'W');
+        row("one long name", {wide});
+        row("long and short", {wide, u"Ann"_s});
+        row("two long ones", {wide, wide});
+        row("two that differ at the end", {wide + u" 1\U0001F98A"_s, wide + u" 2\U0001F98B"_s});
+        row("two that differ in the middle", {wide + u'a' + wide, wide + u'b' + wide});
+        row("one begins with the other", {wide, wide + u"X"_s});
         row("digits like the rest", {u"1. "_s.repeated(100)});
         row("from right to left", {u"\u05D0\u05D1\u05D2"_s});
         row("long, from right to left", {u"\u05D0"_s.repeated(200)});

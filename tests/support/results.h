@@ -3,13 +3,16 @@
 #pragma once
 
 #include "highscores/highscore_file.h"
+#include "settings/settings_keys.h"
 #include "stage/stage_platform.h"
 
-/// Stores `count` results of each mode that are else like `result`, of one round; the
-/// fastest have the most failures.
-inline void writeResults(const StagePlatform& platform, int count, HighscoreEntry result)
+/// Stores `count` results of each mode that are else like `result`, of one round and, if it
+/// names none, the layout of the settings; the fastest have the most failures.
+inline void writeResults(const StagePlatform& platform, int count, HighscoreEntry result = {})
 {
     HighscoreEntries entries;
+    if (result.amountCards == 0)
+        result.amountCards = platform.defaults->integer(SettingsKeys::AmountCards);
     result.amountRounds = 1;
     for (int i = 0; i < count; ++i) {
         result.elapsedSeconds = 59 + i;
