@@ -19,6 +19,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <functional>
 
 /// The real window over the real game, driven by mouse and keyboard; the model
@@ -80,6 +81,14 @@ public:
         child<QAction>(menuItem).trigger();
         QCoreApplication::processEvents();
     }
+    /// Turns the wheel over the control.
+    static void wheel(QWidget& control, int notches)
+    {
+        const QPointF place = control.rect().center();
+        QWheelEvent event(place, control.mapToGlobal(place), {}, {0, 120 * notches}, {}, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&control, &event);
+    }
 
     /// Keys go to the window, as from a keyboard, and so to what has the focus.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
@@ -99,9 +108,10 @@ public:
         QCoreApplication::sendEvent(shown.windowHandle(), &event);
     }
 
-    void startGame()
+    /// Types the name where the focus is, and Return.
+    void startGame(const QString& name = QStringLiteral("Ann"))
     {
-        type(QStringLiteral("Ann"));
+        type(name);
         press(Qt::Key_Return);
         QCoreApplication::processEvents();
     }

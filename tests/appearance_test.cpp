@@ -4,6 +4,7 @@
 // starts one for this test, and a portal of its own answers on it.
 #include "platform/widgets/appearance.h"
 #include "platform/widgets/palettes.h"
+#include "support/rows.h"
 #include "ui/turning_card.h"
 
 #include <QApplication>
@@ -17,20 +18,15 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-namespace {
 
 const QString path = u"/org/freedesktop/portal/desktop"_s;
 const QString interface = u"org.freedesktop.portal.Settings"_s;
 const QString appearance = u"org.freedesktop.appearance"_s;
 const QString oldMotion = u"org.gnome.desktop.interface"_s;
 const QString oldContrast = u"org.gnome.desktop.a11y.interface"_s;
-
-} // namespace
 
 /// Answers as the settings portal of a desktop does.
 class Portal : public QObject {
@@ -79,14 +75,7 @@ class AppearanceTest : public QObject {
 private Q_SLOTS:
     void wishesAreTakenAtTheStart_data()
     {
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("wishes");
-        const auto row = [](const char* name, const QString& group, const QString& key,
-                            const QVariant& value, const QString& wishes) {
-            QTest::newRow(name) << group << key << value << wishes;
-        };
+        const Rows<QString, QString, QVariant, QString> row{"group", "key", "value", "wishes"};
         row("no wish", appearance, u"color-scheme"_s, 0U, {});
         row("dark", appearance, u"color-scheme"_s, 1U, u"dark"_s);
         row("light", appearance, u"color-scheme"_s, 2U, {});
@@ -108,44 +97,14 @@ private Q_SLOTS:
         portal.settings[{group, key}] = value;
         const Appearance followed;
         QTest::qWait(150);
-        QStringList wishes;
-        if (isDark())
-            wishes << u"dark"_s;
-        if (Appearance::isContrastHigh())
-            wishes << u"contrast"_s;
-        if (Appearance::isMotionReduced())
-            wishes << u"stillness"_s;
-        QTEST(wishes.join(u' '), "wishes");
+        const QString wishes = u"dark"_s.repeated(isDark()) +
+                               u"contrast"_s.repeated(Appearance::isContrastHigh()) +
+                               u"stillness"_s.repeated(Appearance::isMotionReduced());
+        QTEST(wishes, "wishes");
     }
 
     void changesAreFollowed()
     {
-        Portal portal;
-        const Appearance followed;
-        const QSignalSpy changes(&followed, &Appearance::changed);
-        QTest::qWait(100);
-        const QPalette before = QApplication::palette();
-        portal.change(appearance, u"color-scheme"_s, 1U);
-        QTRY_VERIFY(isDark());
-        portal.change(appearance, u"color-scheme"_s, 0U);
-        QTRY_VERIFY(!isDark());
-        QCOMPARE(QApplication::palette(), before);
-        portal.change(appearance, u"reduced-motion"_s, 1U);
-        QTRY_VERIFY(Appearance::isMotionReduced());
-        TurningCard card{MemoryCard()};
-        QVERIFY(card.show({.isFaceUp = true}, false) && !card.isMoving());
-        portal.change(appearance, u"reduced-motion"_s, 0U);
-        QTRY_VERIFY(!Appearance::isMotionReduced());
-        QCOMPARE(changes.size(), 2);
-    }
-
-    void highContrastOutlinesControls()
-    {
-        Portal portal;
-        portal.settings[{appearance, u"color-scheme"_s}] = 1U;
-        const Appearance followed;
-        QTRY_VERIFY(isDark());
-        const QPalette before = QApplication::palette();
         QCheckBox box;
         QComboBox menu;
         QSpinBox stepper;
@@ -160,13 +119,31 @@ private Q_SLOTS:
                 return picture.pixel(0, picture.height() / 2) == text;
             });
         };
+        Portal portal;
+        const Appearance followed;
+        const QSignalSpy changes(&followed, &Appearance::changed);
+        QTest::qWait(100);
+        const QPalette before = QApplication::palette();
+        portal.change(appearance, u"color-scheme"_s, 1U);
+        QTRY_VERIFY(isDark());
+        // High contrast outlines controls, and changes no colour.
+        const QPalette dark = QApplication::palette();
         QCOMPARE(outlined(), 0);
-        portal.change(appearance, u"contrast"_s, 1U);
-        QTRY_COMPARE(outlined(), 5);
+        for (const unsigned wish : {1U, 0U}) {
+            portal.change(appearance, u"contrast"_s, wish);
+            QTRY_COMPARE(outlined(), wish == 1 ? 5 : 0);
+            QCOMPARE(QApplication::palette(), dark);
+        }
+        portal.change(appearance, u"color-scheme"_s, 0U);
+        QTRY_VERIFY(!isDark());
         QCOMPARE(QApplication::palette(), before);
-        portal.change(appearance, u"contrast"_s, 0U);
-        QTRY_COMPARE(outlined(), 0);
-        QCOMPARE(QApplication::palette(), before);
+        portal.change(appearance, u"reduced-motion"_s, 1U);
+        QTRY_VERIFY(Appearance::isMotionReduced());
+        TurningCard card{MemoryCard()};
+        QVERIFY(card.show({.isFaceUp = true}, false) && !card.isMoving());
+        portal.change(appearance, u"reduced-motion"_s, 0U);
+        QTRY_VERIFY(!Appearance::isMotionReduced());
+        QCOMPARE(changes.size(), 4); // of contrast and motion
     }
 
     void cleanup() { QApplication::setPalette(Palettes::light()); }

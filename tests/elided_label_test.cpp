@@ -3,7 +3,8 @@
 // Lines that quote names too long for them, or written from right to left.
 #include "ui/elided_label.h"
 
-#include <QTest>
+#include "support/rows.h"
+
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -14,22 +15,20 @@ class ElidedLabelTest : public QObject {
 private Q_SLOTS:
     void namesGiveWayAndKeepTheirDirection_data()
     {
-        QTest::addColumn<QStringList>("names");
-        const QString longName(200, u'W');
-        QTest::newRow("one long name") << QStringList{longName};
-        QTest::newRow("long and short") << QStringList{longName, u"Ann"_s};
-        QTest::newRow("two long ones") << QStringList{longName, longName};
-        QTest::newRow("two that differ at the end")
-            << QStringList{longName + u" 1\U0001F98A"_s, longName + u" 2\U0001F98B"_s};
-        QTest::newRow("two that differ in the middle")
-            << QStringList{longName + u'a' + longName, longName + u'b' + longName};
-        QTest::newRow("one begins with the other") << QStringList{longName, longName + u"X"_s};
-        QTest::newRow("digits like the rest") << QStringList{u"1. "_s.repeated(100)};
-        QTest::newRow("from right to left") << QStringList{u"\u05D0\u05D1\u05D2"_s};
-        QTest::newRow("long, from right to left") << QStringList{u"\u05D0"_s.repeated(200)};
-        QTest::newRow("with an override") << QStringList{u"\u202Eabc"_s};
-        QTest::newRow("line breaks") << QStringList{u"a\nb\u2029c"_s};
-        QTest::newRow("a megabyte") << QStringList{QString(1 << 20, u'W'), u"Ann"_s};
+        const Rows<QStringList> row{"names"};
+        const QString wide(200, u'W');
+        row("one long name", {wide});
+        row("long and short", {wide, u"Ann"_s});
+        row("two long ones", {wide, wide});
+        row("two that differ at the end", {wide + u" 1\U0001F98A"_s, wide + u" 2\U0001F98B"_s});
+        row("two that differ in the middle", {wide + u'a' + wide, wide + u'b' + wide});
+        row("one begins with the other", {wide, wide + u"X"_s});
+        row("digits like the rest", {u"1. "_s.repeated(100)});
+        row("from right to left", {u"\u05D0\u05D1\u05D2"_s});
+        row("long, from right to left", {u"\u05D0"_s.repeated(200)});
+        row("with an override", {u"\u202Eabc"_s});
+        row("line breaks", {u"a\nb\u2029c"_s});
+        row("a megabyte", {QString(1 << 20, u'W'), u"Ann"_s});
     }
 
     void namesGiveWayAndKeepTheirDirection()
@@ -65,20 +64,17 @@ private Q_SLOTS:
 
     void fitsByTighterLettersBeforeItIsCut_data()
     {
-        QTest::addColumn<int>("tightest");
-        QTest::addColumn<double>("room");
-        QTest::addColumn<bool>("isWhole");
-        QTest::newRow("as wide as the line") << 100 << 1.0 << true;
-        QTest::newRow("a little less, not to be tightened") << 100 << 0.95 << false;
-        QTest::newRow("a little less") << 93 << 0.95 << true;
-        QTest::newRow("too little") << 93 << 0.9 << false;
+        const Rows<int, double, bool> row{"tightest", "room", "isWhole"};
+        row("as wide as the line", 100, 1.0, true);
+        row("a little less, not to be tightened", 100, 0.95, false);
+        row("a little less", 93, 0.95, true);
+        row("too little", 93, 0.9, false);
     }
 
     void fitsByTighterLettersBeforeItIsCut()
     {
         QFETCH(int, tightest);
         QFETCH(double, room);
-        QFETCH(bool, isWhole);
         ElidedLabel label(u"line"_s, nullptr);
         QFont font = label.font();
         font.setPixelSize(16);
@@ -90,7 +86,7 @@ private Q_SLOTS:
         const int wholeEnd = lastInk(picture(label));
         label.resize(int(std::ceil(label.sizeHint().width() * room)), 20);
 
-        QCOMPARE(!label.shownText().contains(u'\u2026'), isWhole);
+        QTEST(!label.shownText().contains(u'\u2026'), "isWhole");
         for (const QString& end : {u"N\u2069"_s, u"M\u2069"_s}) // which tell the two apart
             QVERIFY(label.shownText().contains(end));
         const int end = lastInk(picture(label));

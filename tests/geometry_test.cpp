@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Where everything lies, how large it is and in which font, measured on the real
 // window; and that all of it can be read and reached on small and large screens.
-#include "highscores/highscore_file.h"
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
+#include "support/results.h"
+#include "support/rows.h"
 #include "support/texts_fit.h"
+#include "ui/elided_label.h"
 
 #include <QFontDatabase>
 #include <QLineEdit>
@@ -15,24 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// `count` results of each mode for `layout`, by players called `name`.
-void writeResults(StagePlatform& platform, qint64 layout, int count, const QString& name)
-{
-    HighscoreEntries entries;
-    for (int i = 0; i < count; ++i) {
-        for (const QLatin1String mode : {soloMode, versusMode})
-            entries.push_back({.gameMode = mode,
-                               .playerName = name,
-                               .secondPlayerName = name,
-                               .elapsedSeconds = 11 + i,
-                               .failedAttempts = 11 + i,
-                               .firstPlayerScore = 11 + i,
-                               .amountCards = layout,
-                               .amountRounds = 1});
-    }
-    platform.writeHighscoreFile(encodeHighscores(entries));
-}
 
 enum class Mode { solo, versus, both };
 
@@ -46,20 +30,21 @@ struct Place {
     int width; ///< 0: what the text asks for.
     int above; ///< In addition to the gap of 12.
     int below;
+    const char* colour = nullptr; ///< Of its text, if it is not the window's.
 };
 
 constexpr int semibold = 600;
 constexpr std::array sidebar{
-    Place{"pairingLine", Mode::versus, 16, semibold, false, 180, 0, 0},
+    Place{"pairingLine", Mode::versus, 16, semibold, false, 180, 0, 0, "#f2007aff"}, // 95 %
     Place{"firstScoreLine", Mode::versus, 14, semibold, true, 220, 0, 0},
     Place{"secondScoreLine", Mode::versus, 14, semibold, true, 220, 0, 0},
-    Place{"nameLine", Mode::solo, 18, semibold, false, 180, 0, 0},
+    Place{"nameLine", Mode::solo, 18, semibold, false, 180, 0, 0, "#f2007aff"},
     Place{"timeLine", Mode::solo, 14, semibold, true, 220, 0, 0},
     Place{"failuresLine", Mode::solo, 14, semibold, true, 220, 0, 0},
-    Place{"bestTimesHeading", Mode::solo, 13, semibold, false, 220, 12, 0},
+    Place{"bestTimesHeading", Mode::solo, 13, semibold, false, 220, 12, 0, "#ff5f5f5f"},
     Place{"bestTimes1", Mode::solo, 12, 400, true, 220, 0, 0},
     Place{"bestTimes2", Mode::solo, 12, 400, true, 220, 0, 0},
-    Place{"bestFailuresHeading", Mode::solo, 13, semibold, false, 220, 10, 0},
+    Place{"bestFailuresHeading", Mode::solo, 13, semibold, false, 220, 10, 0, "#ff5f5f5f"},
     Place{"bestFailures1", Mode::solo, 12, 400, true, 220, 0, 0},
     Place{"bestFailures2", Mode::solo, 12, 400, true, 220, 0, 0},
     Place{"bestVersusHeading", Mode::versus, 13, semibold, false, 220, 12, 0},
@@ -68,7 +53,7 @@ constexpr std::array sidebar{
     Place{"resetButton", Mode::both, 12, semibold, false, 0, 10, 0},
     Place{"reportButton", Mode::both, 12, semibold, false, 0, 6, 0},
     Place{"versusCheckbox", Mode::both, 13, semibold, false, 0, 0, 8},
-    Place{"endButton", Mode::both, 12, semibold, false, 0, 6, 0},
+    Place{"endButton", Mode::both, 12, semibold, false, 0, 6, 0, "#ffff3b30"},
 };
 
 } // namespace
@@ -153,16 +138,14 @@ private Q_SLOTS:
 private:
     static void addRows(std::initializer_list<int> layouts, const QStringList& languages)
     {
-        QTest::addColumn<int>("layout");
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<bool>("isFullScreen");
+        const Rows<int, QString, bool> row{"layout", "language", "isFullScreen"};
         for (const int layout : layouts) {
             for (const QString& language : languages) {
                 const QByteArray name = language.toUtf8() + char('0' + layout);
-                QTest::newRow(name) << layout << language << false;
+                row(name, layout, language, false);
                 // More room is a matter of the layout, not of the language.
                 if (language == u"en")
-                    QTest::newRow(name + ", full screen") << layout << language << true;
+                    row((name + ", full screen").constData(), layout, language, true);
             }
         }
     }
@@ -177,7 +160,9 @@ private:
             [&](StagePlatform& platform) {
                 platform.defaults->setInteger(SettingsKeys::AmountCards, layout);
                 platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, isFullScreen);
-                writeResults(platform, layout, count, name);
+                writeResults(
+                    platform, count,
+                    {.playerName = name, .secondPlayerName = name, .firstPlayerScore = 11});
             },
             language);
         QTRY_COMPARE(m_window->window().isFullScreen(), isFullScreen);
@@ -213,15 +198,13 @@ private:
     void measureAll(bool isVersus, bool hasNames)
     {
         const bool isActive = m_window->game().isGameActive();
-        const int width = screen().width();
-        const int height = screen().height();
         QCOMPARE(place(child("logo")), QRect(16, 22, 180, 180));
-        QCOMPARE(place(child("divider")), QRect(236, 0, 1, height));
+        QCOMPARE(place(child("divider")), QRect(236, 0, 1, screen().height()));
 
         auto& title = m_window->child<QLabel>(u"headerText"_s);
-        QCOMPARE(place(title).left(), 236);
-        QCOMPARE(place(title).right() + 1, width - 16);
-        QCOMPARE(place(title).center().y(), QRect(0, 0, 1, 60).center().y());
+        const QRect strip(236, 0, screen().width() - 236 - 16, 60);
+        QCOMPARE(place(title).width(), strip.width());
+        QCOMPARE(place(title).center(), strip.center());
         QCOMPARE(title.alignment(), Qt::AlignCenter);
         compareFont(title, 30, 700, false);
         QCOMPARE(title.text(), isActive ? m_window->game().headerText() : QString());
@@ -254,17 +237,12 @@ private:
             QVERIFY2(rect.topLeft() == QPoint(16, y), expected.name);
             QVERIFY2(expected.width == 0 || rect.width() == expected.width, expected.name);
             compareFont(widget, expected.pixelSize, expected.weight, expected.isMonospaced);
+            const QColor colour = widget.palette().color(QPalette::Active, widget.foregroundRole());
+            if (expected.colour != nullptr)
+                QCOMPARE(colour.name(QColor::HexArgb), QLatin1String(expected.colour));
             y += rect.height() + expected.below;
         }
         QCOMPARE(child("versusCheckbox").isEnabled(), !isActive);
-        const auto colour = [this](const char* name, QPalette::ColorRole role) {
-            return child(name).palette().color(QPalette::Active, role).name(QColor::HexArgb);
-        };
-        for (const char* const name : {"pairingLine", "nameLine"})
-            QCOMPARE(colour(name, QPalette::WindowText), u"#f2007aff"_s); // 95 %
-        for (const char* const name : {"bestTimesHeading", "bestFailuresHeading"})
-            QCOMPARE(colour(name, QPalette::WindowText), u"#ff5f5f5f"_s);
-        QCOMPARE(colour("endButton", QPalette::ButtonText), u"#ffff3b30"_s);
     }
 
     /// The controls of the form lie in the middle of the main area, 16 apart.
@@ -347,9 +325,8 @@ private:
         QWidgetList widgets = screen().findChildren<QWidget*>();
         widgets.removeIf([](const QWidget* widget) {
             return !widget->isVisible() ||
-                   (qobject_cast<const QLabel*>(widget) == nullptr &&
-                    qobject_cast<const QLineEdit*>(widget) == nullptr &&
-                    qobject_cast<const QAbstractButton*>(widget) == nullptr);
+                   !(widget->inherits("QLabel") || widget->inherits("QLineEdit") ||
+                     widget->inherits("QAbstractButton"));
         });
         for (QWidget* const widget : widgets) {
             const QByteArray name = widget->objectName().toUtf8();

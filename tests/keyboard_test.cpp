@@ -4,8 +4,8 @@
 #include "platform/widgets/access_dialog.h"
 #include "platform/widgets/access_question.h"
 #include "platform/widgets/palettes.h"
-#include "settings/settings_keys.h"
 #include "stage/game_window.h"
+#include "support/rows.h"
 #include "support/texts_fit.h"
 #include "ui/colours.h"
 
@@ -34,28 +34,22 @@ double contrast(const QColor& one, const QColor& other)
     return (light + 0.05) / (dark + 0.05);
 }
 
-/// The texts of what can be chosen by Alt and a letter on a screen, in use or not.
-QStringList mnemonics(QWidget& screen)
+/// The texts of what can be chosen by Alt and a letter on a screen or in a
+/// menu, in use or not.
+QStringList mnemonics(const QWidget& screen)
 {
     QStringList texts;
     for (const auto* const widget : screen.findChildren<QWidget*>()) {
         const QString text = widget->property("text").toString();
-        const bool isButton = qobject_cast<const QAbstractButton*>(widget) != nullptr &&
-                              !widget->objectName().startsWith(u"card"_s);
-        const bool isCaption =
-            qobject_cast<const QLabel*>(widget) != nullptr && text.contains(u'&');
+        const bool isButton =
+            widget->inherits("QAbstractButton") && !widget->objectName().startsWith(u"card"_s);
+        const bool isCaption = widget->inherits("QLabel") && text.contains(u'&');
         if (widget->isVisible() && (isButton || isCaption))
             texts << text;
     }
-    return texts;
-}
-
-QStringList texts(const QList<QAction*>& actions)
-{
-    QStringList texts;
-    for (const QAction* const action : actions) {
-        if (!action->isSeparator())
-            texts << action->text();
+    for (const QAction* const item : screen.actions()) {
+        if (!item->isSeparator())
+            texts << item->text();
     }
     return texts;
 }
@@ -79,15 +73,12 @@ class KeyboardTest : public QObject {
 private Q_SLOTS:
     void tabGoesInReadingOrder_data()
     {
-        QTest::addColumn<QString>("names");
-        QTest::addColumn<bool>("isStarted");
-        QTest::addColumn<QString>("stops"); // after those of the sidebar
-        QTest::newRow("one player")
-            << u"Ann"_s << false << u"versusCheckbox playerName startButton"_s;
-        QTest::newRow("two players")
-            << u"Ann Ben"_s << false
-            << u"versusCheckbox playerOneName playerTwoName startVersusButton"_s;
-        QTest::newRow("a game: the board is one stop") << u"Ann"_s << true << u"endButton card5"_s;
+        // The stops are those after the sidebar's buttons.
+        const Rows<QString, bool, QString> row{"names", "isStarted", "stops"};
+        row("one player", u"Ann"_s, false, u"versusCheckbox playerName startButton"_s);
+        row("two players", u"Ann Ben"_s, false,
+            u"versusCheckbox playerOneName playerTwoName startVersusButton"_s);
+        row("a game: the board is one stop", u"Ann"_s, true, u"endButton card5"_s);
     }
 
     void tabGoesInReadingOrder()
@@ -124,26 +115,28 @@ private Q_SLOTS:
 
     void everyControlHasItsLetterAndRoom_data()
     {
-        QTest::addColumn<QString>("language");
+        const Rows<QString> row{"language"};
         for (const QString& language : StagePlatform::languages())
-            QTest::newRow(qPrintable(language)) << language;
+            row(qPrintable(language), language);
     }
 
     void everyControlHasItsLetterAndRoom()
     {
         QFETCH(QString, language);
         GameWindow window([](StagePlatform&) {}, language);
-        const QStringList menus = texts(window.window().menuBar()->actions());
-        for (const QAction* const menu : window.window().menuBar()->actions())
-            checkMnemonics(texts(menu->menu()->actions()));
+        const QMenuBar& menus = *window.window().menuBar();
+        for (const QAction* const menu : menus.actions())
+            checkMnemonics(mnemonics(*menu->menu()));
 
-        checkMnemonics(menus + mnemonics(window.window()));
-        window.click(u"versusCheckbox"_s);
-        checkMnemonics(menus + mnemonics(window.window()));
-        window.click(u"versusCheckbox"_s);
-        window.child<QWidget>(u"playerName"_s).setFocus();
+        const auto checkScreen = [&] {
+            checkMnemonics(mnemonics(menus) + mnemonics(window.window()));
+        };
+        checkScreen();
         window.startGame();
-        checkMnemonics(menus + mnemonics(window.window()));
+        checkScreen();
+        window.choose(u"menu_end_game"_s);
+        window.click(u"versusCheckbox"_s);
+        checkScreen();
 
         for (const auto status : {PhotoAuthorization::notDetermined, PhotoAuthorization::denied}) {
             window.platform.photos.status = status;
@@ -166,20 +159,6 @@ private Q_SLOTS:
         QVERIFY(isAsked);
     }
 
-    void aHeldShortcutActsOnce()
-    {
-        GameWindow window;
-        window.press(Qt::Key_M, Qt::AltModifier);
-        QTRY_VERIFY(window.game().isVersusMode());
-        for (int i = 0; i < 3; ++i) {
-            QTest::simulateEvent(window.window().windowHandle(), true, Qt::Key_M, Qt::AltModifier,
-                                 u"m"_s, true);
-            QTest::qWait(150); // as long as such a button is down
-        }
-        QVERIFY(window.game().isVersusMode());
-        QCOMPARE(window.game().playerOneName(), QString());
-    }
-
     void aKeyHeldOnAnAlertActsOnNothing()
     {
         GameWindow window;
@@ -198,62 +177,61 @@ private Q_SLOTS:
         QVERIFY(window.game().isGameActive());
     }
 
-    void cardsAreNamedByTheirOwnBoard()
+    void aHeldShortcutActsOnce()
     {
         GameWindow window;
-        window.platform.defaults->setInteger(SettingsKeys::AmountCards, 6); // from the next game
-        window.startGame();
-        QVERIFY2(window.card(39).accessibleName().startsWith(u"Row 5, column 8"_s),
-                 qPrintable(window.card(39).accessibleName()));
-    }
-
-    void theFocusIsSeenOnEverySurface_data()
-    {
-        QTest::addColumn<QPalette>("palette");
-        QTest::newRow("light") << Palettes::light();
-        QTest::newRow("dark") << Palettes::dark();
+        window.press(Qt::Key_M, Qt::AltModifier);
+        QTRY_VERIFY(window.game().isVersusMode());
+        for (int i = 0; i < 3; ++i) {
+            QTest::simulateEvent(window.window().windowHandle(), true, Qt::Key_M, Qt::AltModifier,
+                                 u"m"_s, true);
+            QTest::qWait(150); // as long as such a button is down
+        }
+        QVERIFY(window.game().isVersusMode());
+        QCOMPARE(window.game().playerOneName(), QString());
     }
 
     void theFocusIsSeenOnEverySurface()
     {
-        QFETCH(QPalette, palette);
-        const QColor ground = palette.color(QPalette::Window);
-        QVERIFY(contrast(Colours::focusRing(palette), ground) >= 3);
-
         const QPalette before = QApplication::palette();
-        QApplication::setPalette(palette);
-        GameWindow window;
-        window.type(u"Ann"_s);
-        const auto look = [&](QWidget& top, int stops) {
-            for (int stop = 0; stop < stops; ++stop) {
-                QTest::qWait(20);
-                const QImage without = top.grab().toImage();
-                QTest::keyClick(top.windowHandle(), Qt::Key_Tab);
-                QWidget& control = *top.focusWidget();
-                QTest::qWait(20);
-                const QImage with = top.grab().toImage();
-                const QRect place(control.mapTo(&top, QPoint()), control.size());
-                const QRect around = place.adjusted(-2, -2, 2, 2);
-                int seen = 0;
-                for (int y = around.top(); y <= around.bottom(); ++y) {
-                    for (int x = around.left(); x <= around.right(); ++x) {
-                        const QColor now = with.pixelColor(x, y);
-                        if (contrast(now, ground) >= 3 &&
-                            contrast(now, without.pixelColor(x, y)) >= 3)
-                            ++seen;
-                    }
-                }
-                // A line all around, if not every pixel of a corner.
-                QVERIFY2(seen >= 2 * (place.width() + place.height()),
-                         qPrintable(control.objectName()));
-            }
-        };
-        look(window.window(), 5);
-        window.delegate.showPreferences();
-        auto& preferences = window.child<QWidget>(u"Preferences"_s);
-        QVERIFY(QTest::qWaitForWindowActive(&preferences));
-        look(preferences, 8);
+        for (const QPalette& palette : {Palettes::light(), Palettes::dark()}) {
+            QVERIFY(contrast(Colours::focusRing(palette), palette.color(QPalette::Window)) >= 3);
+            QApplication::setPalette(palette);
+            GameWindow window;
+            window.type(u"Ann"_s);
+            lookAtFocus(window.window(), 5);
+            window.delegate.showPreferences();
+            auto& preferences = window.child<QWidget>(u"Preferences"_s);
+            QVERIFY(QTest::qWaitForWindowActive(&preferences));
+            lookAtFocus(preferences, 8);
+        }
         QApplication::setPalette(before);
+    }
+
+private:
+    /// Goes by Tab from control to control.
+    static void lookAtFocus(QWidget& top, int stops)
+    {
+        const QColor ground = top.palette().color(QPalette::Window);
+        for (int stop = 0; stop < stops; ++stop) {
+            QTest::qWait(20);
+            const QImage without = top.grab().toImage();
+            QTest::keyClick(top.windowHandle(), Qt::Key_Tab);
+            QWidget& control = *top.focusWidget();
+            QTest::qWait(20);
+            const QImage with = top.grab().toImage();
+            const QRect place(control.mapTo(&top, QPoint()), control.size());
+            const QRect around = place.adjusted(-2, -2, 2, 2);
+            int seen = 0;
+            for (int i = 0; i < around.width() * around.height(); ++i) {
+                const QPoint at = around.topLeft() + QPoint(i % around.width(), i / around.width());
+                const QColor now = with.pixelColor(at);
+                seen += contrast(now, ground) >= 3 && contrast(now, without.pixelColor(at)) >= 3;
+            }
+            // A line all around, if not every pixel of a corner.
+            QVERIFY2(seen >= 2 * (place.width() + place.height()),
+                     qPrintable(control.objectName()));
+        }
     }
 };
 

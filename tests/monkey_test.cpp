@@ -13,7 +13,6 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QRandomGenerator>
-#include <QWheelEvent>
 #include <QWindow>
 #include <csignal>
 #include <map>
@@ -186,10 +185,7 @@ private:
     {
         note(u"wheel"_s);
         QWidget* const target = oneOf(top.findChildren<QWidget*>() << &top);
-        const QPointF place(target->rect().center());
-        QWheelEvent event(place, target->mapToGlobal(place), {}, {0, draw(2) ? 120 : -120},
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(target, &event);
+        GameWindow::wheel(*target, draw(2) ? 1 : -1);
     }
 
     QKeyCombination key()
@@ -227,22 +223,19 @@ private:
     void disturb(QWidget& top)
     {
         StagePlatform& platform = m_window.platform;
+        static const QStringList decks =
+            u"Cyberpunk|Cyberpunk|Kids|None||iPhoto|iPhoto: Kids|iPhoto: Sea"_s.split(u'|');
         doOneOf({
             {u"minimise"_s, [&] { top.setWindowState(top.windowState() ^ Qt::WindowMinimized); }},
             {u"resize"_s, [&] { top.windowHandle()->resize(draw(2000) + 1, draw(1500) + 1); }},
             {u"results"_s, [&] { platform.writeHighscoreFile(draw(2) ? "[{" : "[]"); }},
-            {u"deck"_s, [&] { platform.defaults->setString(SettingsKeys::CardDeck, deck()); }},
+            {u"deck"_s,
+             [&] { platform.defaults->setString(SettingsKeys::CardDeck, oneOf(decks)); }},
             {u"second start"_s, [&] { m_window.delegate.activate(); }},
             {u"alert"_s, [&] { m_window.game().showLocalizedAlert("enter_name"); }},
             {u"paint"_s, [&] { m_window.window().grab(); }},
             {u"close"_s, [&] { (void)(&top == &m_window.window() || top.close()); }},
         });
-    }
-
-    QString deck()
-    {
-        return oneOf(
-            u"Cyberpunk|Cyberpunk|Kids|None||iPhoto|iPhoto: Kids|iPhoto: Sea"_s.split(u'|'));
     }
 
     void leave()
@@ -264,6 +257,13 @@ private:
 
 class MonkeyTest : public QObject {
     Q_OBJECT
+
+public:
+    static void initMain()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QApplication::setQuitOnLastWindowClosed(false);
+    }
 
 private Q_SLOTS:
     void nothingCrashesHangsOrComplains()
@@ -301,22 +301,12 @@ private Q_SLOTS:
             if (!described.match(line).hasMatch())
                 complaints << line;
         }
-        QString summary;
-        for (const auto& [what, count] : seen)
-            summary += u"%1 %2, "_s.arg(what).arg(count);
-        qInfo("%s", qPrintable(summary));
+        qInfo() << seen;
         QVERIFY2(complaints.isEmpty(),
                  qPrintable(complaints.join(u'\n') + u"\nafter "_s + trail.join(u", "_s)));
         QVERIFY(seen[u"actions"_s] > 50);
     }
 };
 
-int main(int argc, char* argv[])
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication::setQuitOnLastWindowClosed(false);
-    const QApplication application(argc, argv);
-    MonkeyTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(MonkeyTest)
 #include "monkey_test.moc"

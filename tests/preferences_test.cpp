@@ -2,32 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The preferences driven by mouse, wheel and keyboard; the deck has a test of its own.
 #include "game/game_status.h"
-#include "highscores/highscore_file.h"
 #include "support/pane_window.h"
+#include "support/results.h"
+#include "support/rows.h"
 
 #include <QCheckBox>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
-#include <QStyleOptionSlider>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Where the handle of the slider is in its window.
-QPoint handleOf(const QSlider& slider)
-{
-    QStyleOptionSlider option;
-    option.initFrom(&slider);
-    option.maximum = slider.maximum();
-    option.sliderPosition = option.sliderValue = slider.value();
-    const QRect handle = slider.style()->subControlRect(QStyle::CC_Slider, &option,
-                                                        QStyle::SC_SliderHandle, &slider);
-    return slider.mapTo(slider.window(), handle.center());
-}
-
-} // namespace
 
 class PreferencesTest : public QObject {
     Q_OBJECT
@@ -35,19 +19,16 @@ class PreferencesTest : public QObject {
 private Q_SLOTS:
     void anyStoredValueIsShownAndRepaired_data()
     {
-        QTest::addColumn<QByteArray>("settings");
-        QTest::addColumn<QList<int>>("shown"); // rounds, layout, volume, found pairs cleared
-        QTest::addColumn<QByteArray>("deck");
-        QTest::newRow("good ones") << QByteArray("AmountRounds=7\nAmountCards=4\nVolumeSound=35\n"
-                                                 "RemoveMatch=1\nCardDeck=Kids\n")
-                                   << QList<int>{7, 4, 35, 1} << QByteArray("Kids");
-        QTest::newRow("none") << QByteArray("Foreign=1\n") << QList<int>{1, 1, 50, 0}
-                              << QByteArray("Cyberpunk");
-        const auto everyKey = [](const char* name, const QByteArray& value,
-                                 const QList<int>& shown) {
-            QByteArray settings("AmountRounds=%\nAmountCards=%\nVolumeSound=%\nRemoveMatch=%\n"
-                                "CardDeck=%\n");
-            QTest::newRow(name) << settings.replace("%", value) << shown << QByteArray("Cyberpunk");
+        // Shown are rounds, layout, volume, and whether found pairs are cleared.
+        const Rows<QByteArray, QList<int>, QByteArray> row{"settings", "shown", "deck"};
+        row("good ones",
+            "AmountRounds=7\nAmountCards=4\nVolumeSound=35\nRemoveMatch=1\nCardDeck=Kids\n",
+            {7, 4, 35, 1}, "Kids");
+        row("none", "Foreign=1\n", {1, 1, 50, 0}, "Cyberpunk");
+        const auto everyKey = [&row](const char* name, const char* value, const QList<int>& shown) {
+            QByteArray settings =
+                "AmountRounds=%\nAmountCards=%\nVolumeSound=%\nRemoveMatch=%\nCardDeck=%\n";
+            row(name, settings.replace("%", value), shown, "Cyberpunk");
         };
         everyKey("too high", "150", {99, 6, 100, 0});
         everyKey("wrap to 1 when narrowed too early", "4294967297", {99, 6, 100, 0});
@@ -74,84 +55,27 @@ private Q_SLOTS:
             QCOMPARE(stored("VolumeSound"), "150"_ba);
     }
 
-    void everyWayToTurnAStepperIsStoredAtOnce()
+    void everyWayToChangeASettingIsStoredAtOnce()
     {
-        PaneWindow window("AmountRounds=98\n");
+        PaneWindow window("AmountRounds=98\nRemoveMatch=2\nPlaySounds=2\nLaunchInFullscreen=2\n");
         QSpinBox& stepper = *window.pane->roundsStepper();
-        const auto expect = [&window](const QByteArray& rounds, const QString& label) {
-            QCOMPARE(stored("AmountRounds"), rounds);
-            QCOMPARE(window.text(u"rounds_label"_s), label);
+        const auto expect = [&window](const QString& rounds) {
+            QCOMPARE(window.text(u"rounds_label"_s), rounds);
+            QCOMPARE(stored("AmountRounds"), rounds.section(u' ', 0, 0).toUtf8());
         };
         QVERIFY(stepper.hasFocus());
-        window.key(Qt::Key_Up);
-        expect("99", u"99 rounds per game"_s);
-        window.key(Qt::Key_Up);
-        expect("99", u"99 rounds per game"_s);
+        for (int press = 0; press < 2; ++press) {
+            window.key(Qt::Key_Up);
+            expect(u"99 rounds per game"_s);
+        }
         stepper.selectAll();
         QTest::keyClicks(&stepper, u"12"_s);
-        expect("12", u"12 rounds per game"_s);
+        expect(u"12 rounds per game"_s);
         QTest::mouseClick(&stepper, Qt::LeftButton, {}, {stepper.width() - 6, 6});
-        expect("13", u"13 rounds per game"_s);
+        expect(u"13 rounds per game"_s);
         window.wheel(stepper, -12);
-        expect("1", u"1 round per game"_s);
-    }
+        expect(u"1 round per game"_s);
 
-    void theMainWindowFollowsTheLayout()
-    {
-        PaneWindow window("AmountCards=3\n", [](StagePlatform& platform) {
-            platform.writeHighscoreFile(encodeHighscores({{.gameMode = soloMode,
-                                                           .playerName = u"Mia"_s,
-                                                           .elapsedSeconds = 9,
-                                                           .amountCards = 4,
-                                                           .amountRounds = 1}}));
-        });
-        int posts = 0;
-        window.platform.notifications.observe(gameLayoutChanged, window.pane,
-                                              [&posts] { ++posts; });
-        QVERIFY(window.game().bestTimeScores().empty());
-        window.key(Qt::Key_Tab);
-        window.key(Qt::Key_Up);
-        QCOMPARE(stored("AmountCards"), "4"_ba);
-        QCOMPARE(posts, 1);
-        QCOMPARE(window.pane->cards_label()->text(), u"6 × 4, 12 pairs"_s);
-        QTRY_COMPARE(window.delegate.contentView()->size(), QSize(1320, 760));
-        QCOMPARE(window.window().geometry().center(), window.screen().center());
-        QCOMPARE(window.text(u"bestTimes1"_s), u"1. Mia – 00:09"_s);
-    }
-
-    void withoutAMainWindowSettingsAreStored()
-    {
-        StagePlatform platform;
-        AppDelegate notLaunched;
-        for (MainWindowLink* const link :
-             std::initializer_list<MainWindowLink*>{nullptr, &notLaunched}) {
-            Preferences pane(link);
-            pane.roundsStepper()->setValue(link == nullptr ? 8 : 9);
-            pane.cardsStepper()->setValue(link == nullptr ? 5 : 4);
-            QCOMPARE(stored("AmountRounds"), link == nullptr ? "8"_ba : "9"_ba);
-            QCOMPARE(stored("AmountCards"), link == nullptr ? "5"_ba : "4"_ba);
-        }
-        QCOMPARE(Preferences::cardLayoutLabel(7), u"7"_s);
-        QCOMPARE(Preferences::cardLayoutLabel(0), u"0"_s);
-    }
-
-    void aRunningGameLocksTheSteppers()
-    {
-        PaneWindow window("AmountCards=1\nAmountRounds=2\n");
-        window.startGame();
-        QSpinBox& rounds = *window.pane->roundsStepper();
-        QVERIFY(!rounds.isEnabled() && !window.pane->cardsStepper()->isEnabled());
-        QCOMPARE(rounds.toolTip(), u"Can be changed when the game is over."_s);
-        QCOMPARE(rounds.accessibleDescription(), rounds.toolTip());
-        window.choose(u"menu_end_game"_s);
-        QVERIFY(rounds.isEnabled() && window.pane->cardsStepper()->isEnabled());
-        QVERIFY(rounds.toolTip().isEmpty());
-        QCOMPARE(rounds.accessibleDescription(), u"2 rounds per game"_s);
-    }
-
-    void checkBoxesAreStoredAtOnce()
-    {
-        PaneWindow window("RemoveMatch=2\nPlaySounds=2\nLaunchInFullscreen=2\n");
         const std::vector<std::tuple<QString, QByteArray, Qt::Key>> boxes{
             {u"removeMatch"_s, "RemoveMatch", Qt::Key_C},
             {u"playSounds"_s, "PlaySounds", Qt::Key_P},
@@ -165,14 +89,43 @@ private Q_SLOTS:
         }
     }
 
+    void theMainWindowFollowsTheLayout()
+    {
+        PaneWindow window("AmountCards=3\n", [](StagePlatform& platform) {
+            writeResults(platform, 1, {.playerName = u"Mia"_s, .amountCards = 4});
+        });
+        int posts = 0;
+        window.platform.notifications.observe(gameLayoutChanged, window.pane,
+                                              [&posts] { ++posts; });
+        QVERIFY(window.game().bestTimeScores().empty());
+        window.key(Qt::Key_Tab);
+        window.key(Qt::Key_Up);
+        QCOMPARE(stored("AmountCards"), "4"_ba);
+        QCOMPARE(posts, 1);
+        QCOMPARE(window.pane->cards_label()->text(), u"6 × 4, 12 pairs"_s);
+        QTRY_COMPARE(window.delegate.contentView()->size(), QSize(1320, 760));
+        QCOMPARE(window.window().geometry().center(), window.screen().center());
+        QCOMPARE(window.text(u"bestTimes1"_s), u"1. Mia – 00:59"_s);
+    }
+
+    void withoutAMainWindowSettingsAreStored()
+    {
+        StagePlatform platform;
+        AppDelegate notLaunched;
+        for (const int value : {4, 5}) {
+            Preferences pane(value == 4 ? nullptr : &notLaunched);
+            pane.roundsStepper()->setValue(value);
+            pane.cardsStepper()->setValue(value);
+            QCOMPARE(stored("AmountRounds"), QByteArray::number(value));
+            QCOMPARE(stored("AmountCards"), QByteArray::number(value));
+        }
+        QCOMPARE(Preferences::cardLayoutLabel(7), u"7"_s);
+        QCOMPARE(Preferences::cardLayoutLabel(0), u"0"_s);
+    }
+
     void theVolumeIsStoredAndHeardWhenAChangeEnds()
     {
-        PaneWindow window("VolumeSound=50\nPlaySounds=0\n", [](StagePlatform& platform) {
-            const QString sound = u"/Sounds/card_done.mp3"_s;
-            const QString shipped = *ApplicationBundle::ofRunningProgram().resourceFolder();
-            QDir().mkpath(platform.home.filePath(u"Sounds"_s));
-            QVERIFY(QFile::copy(shipped + sound, platform.home.path() + sound));
-        });
+        PaneWindow window("PlaySounds=0\n", [](auto& platform) { platform.useBuiltResources(); });
         const QString recording = window.platform.home.filePath(u"recording.raw"_s);
         qputenv("SDL_AUDIODRIVER", "disk");
         qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(recording));
@@ -182,7 +135,7 @@ private Q_SLOTS:
         };
         auto& volume = window.child<QSlider>(u"volumeSound"_s);
         QWindow* const handle = window.pane->windowHandle();
-        const QPoint from = handleOf(volume);
+        const QPoint from = volume.mapTo(window.pane, volume.rect().center()); // its handle
         QTest::mousePress(handle, Qt::LeftButton, {}, from);
         for (int way = 10; way <= 70; way += 10)
             QTest::mouseMove(handle, from + QPoint(way, 0));
@@ -193,7 +146,7 @@ private Q_SLOTS:
         QCOMPARE(stored("VolumeSound"), QByteArray::number(volume.value()));
 
         QSignalSpy written(window.platform.defaults.get(), &UserDefaults::written);
-        QTest::mouseClick(handle, Qt::LeftButton, {}, handleOf(volume));
+        QTest::mouseClick(handle, Qt::LeftButton, {}, from + QPoint(70, 0));
         QCOMPARE(written.count(), 0);
         volume.setFocus();
         window.key(Qt::Key_Home);
@@ -212,18 +165,27 @@ private Q_SLOTS:
         qputenv("SDL_AUDIODRIVER", "dummy");
     }
 
-    void whatAnotherProgramWritesMeanwhileIsKept()
+    void aRunningGameLocksTheSteppersAndKeepsWhatOthersWrite()
     {
         PaneWindow window("AmountRounds=2\nAmountCards=2\nCardDeck=Kids\n");
         makeDeck(window.resources(), u"70s"_s, 24);
         writeSettings("AmountRounds=5\nAmountCards=5\nCardDeck=70s\nForeign=kept\n");
-        QCOMPARE(window.pane->roundsStepper()->value(), 2);
+        const QSpinBox& rounds = *window.pane->roundsStepper();
+        QCOMPARE(rounds.value(), 2);
         window.startGame(); // reads the file; the open pane's steppers win
         QCOMPARE(stored("AmountRounds"), "2"_ba);
         QCOMPARE(stored("AmountCards"), "2"_ba);
         QCOMPARE(stored("CardDeck"), "70s"_ba);
         QCOMPARE(stored("Foreign"), "kept"_ba);
+
+        // Meanwhile they are locked.
+        QVERIFY(!rounds.isEnabled() && !window.pane->cardsStepper()->isEnabled());
+        QCOMPARE(rounds.toolTip(), u"Can be changed when the game is over."_s);
+        QCOMPARE(rounds.accessibleDescription(), rounds.toolTip());
         window.choose(u"menu_end_game"_s);
+        QVERIFY(rounds.isEnabled() && window.pane->cardsStepper()->isEnabled());
+        QVERIFY(rounds.toolTip().isEmpty());
+        QCOMPARE(rounds.accessibleDescription(), u"2 rounds per game"_s);
 
         // Closed, the pane keeps nothing from the past.
         window.close();

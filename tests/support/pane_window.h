@@ -9,7 +9,6 @@
 
 #include <QComboBox>
 #include <QPointer>
-#include <QWheelEvent>
 
 inline void writeSettings(const QByteArray& lines)
 {
@@ -60,14 +59,6 @@ public:
         QTRY_VERIFY(pane.isNull());
         window().activateWindow(); // which a window manager does
         QVERIFY(QTest::qWaitForWindowActive(&window()));
-    }
-    /// Turns the wheel over the control.
-    void wheel(QWidget& control, int notches)
-    {
-        const QPointF place = control.rect().center();
-        QWheelEvent event(place, control.mapToGlobal(place), {}, {0, 120 * notches}, {}, {},
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&control, &event);
     }
     QComboBox& decks() { return *pane->cardDeck_dropdown(); }
 
