@@ -49,6 +49,9 @@ private:
 class AccessQuestionTest : public QObject {
     Q_OBJECT
 
+public:
+    static void initMain() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
 private Q_SLOTS:
     void aRoundAsksOnce_data()
     {
@@ -241,11 +244,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication application(argc, argv);
-    AccessQuestionTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(AccessQuestionTest)
 #include "access_question_test.moc"

@@ -35,9 +35,9 @@ struct Performance : Run {
 
 /// The child's part: each argument is a number of milliseconds to wait, "prepare", or a file.
 /// First may stand "hasty", for a player that soon closes a device with nothing to play.
-int perform(QStringList script)
+int perform(const QStringList& script)
 {
-    const bool isHasty = script.removeAll(u"hasty"_s) > 0;
+    const bool isHasty = script.startsWith(u"hasty"_s);
     std::optional<AudioPlayer> player(std::in_place, isHasty ? 500ms : AudioPlayer::idleTime);
     QElapsedTimer clock;
     qint64 slowest = 0;
@@ -210,7 +210,7 @@ private:
     /// Lets a child perform `script`, see perform(), and listens.
     static Performance listen(const QStringList& script, const QString& driver = u"disk"_s)
     {
-        return Performance{runAgain(QStringList{u"--perform"_s} + script, driver)};
+        return Performance{runAgain(script, driver)};
     }
 
     QTemporaryDir m_home{};
@@ -218,14 +218,8 @@ private:
     const QString m_tone = path("tone.wav");
 };
 
-int main(int argc, char** argv)
+int main(int argc, char* argv[])
 {
-    const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"--perform"_s)
-        return perform(arguments.mid(2));
-    AudioPlayerTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runTests<QCoreApplication, AudioPlayerTest>(argc, argv, perform);
 }
-
 #include "audio_player_test.moc"

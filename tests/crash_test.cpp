@@ -84,6 +84,18 @@ public:
                            results.startsWith(m_results.chopped(3))));
     }
 
+    /// Ends the game in a copy of this process; if it `isTraced`, it waits to be told to.
+    [[nodiscard]] pid_t endInAnotherProcess(bool isTraced)
+    {
+        const pid_t child = ::fork();
+        if (child != 0)
+            return child;
+        if (isTraced)
+            (void)(::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) + std::raise(SIGSTOP));
+        game.endGame();
+        ::_exit(0);
+    }
+
     /// Whether another start finds all whole after a kill, and can write. Lays the files
     /// as they were before.
     [[nodiscard]] bool isWholeForAnotherStart(int& stored) const
@@ -170,17 +182,11 @@ private Q_SLOTS:
     /// The kernel stops the process before and after each of its calls.
     void killedAtAnyStepNothingIsLost()
     {
-        const Game game(30);
+        Game game(30);
         int stored = 0;
         int step = 0;
         for (bool isOver = false; !isOver; ++step) {
-            const pid_t child = ::fork();
-            if (child == 0) {
-                (void)::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-                (void)std::raise(SIGSTOP);
-                const_cast<MemoryGame&>(game.game).endGame();
-                ::_exit(0);
-            }
+            const pid_t child = game.endInAnotherProcess(true);
             int status = 0;
             ::waitpid(child, &status, 0);
             for (int i = 0; i < step && WIFSTOPPED(status); ++i) {
@@ -201,17 +207,13 @@ private Q_SLOTS:
     void killedAtAnyMomentNothingIsLost()
     {
         const int kills = std::max(10, qEnvironmentVariableIntValue("PAIRCADE_KILLS"));
-        const Game game(1000);
+        Game game(1000);
         QElapsedTimer length;
         int stored = 0;
         qint64 whole = 0; // in microseconds
         for (int i = 0; i <= kills; ++i) {
             length.start();
-            const pid_t child = ::fork();
-            if (child == 0) {
-                const_cast<MemoryGame&>(game.game).endGame();
-                ::_exit(0);
-            }
+            const pid_t child = game.endInAnotherProcess(false);
             if (i > 0) { // the first tells how long it takes
                 ::usleep(useconds_t(QRandomGenerator::global()->bounded(whole)));
                 ::kill(child, SIGKILL);

@@ -13,16 +13,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Plays a real game with the settings PlaySounds and VolumeSound: turns one card, or all
-/// after a miss if `resources` has the sounds.
-void play(const QString& playSounds, const QString& volume, const QString& resources)
+/// after a miss if a third argument says which folder has the sounds.
+int play(const QStringList& arguments)
 {
+    const QString resources = arguments.value(2);
     StagePlatform platform;
     if (!resources.isEmpty()) {
         platform.useResources(resources);
         makeDeck(resources, u"Cyberpunk"_s, 6);
     }
-    platform.defaults->setString(SettingsKeys::PlaySounds, playSounds);
-    platform.defaults->setString(SettingsKeys::VolumeSound, volume);
+    platform.defaults->setString(SettingsKeys::PlaySounds, arguments[0]);
+    platform.defaults->setString(SettingsKeys::VolumeSound, arguments[1]);
     MemoryGame game;
     game.setPlayerName(u"Ann"_s);
     game.startNewGame();
@@ -35,6 +36,7 @@ void play(const QString& playSounds, const QString& volume, const QString& resou
             findPair(game);
     }
     QTest::qWait(500);
+    return 0;
 }
 
 } // namespace
@@ -62,14 +64,14 @@ private Q_SLOTS:
         for (const QString& playSounds : {u"0"_s, u"2"_s, u"true"_s}) {
             // The device is not even opened.
             QCOMPARE(peakAt(playSounds, u"100"_s), -1);
-            QVERIFY(runAgain({u"--play"_s, playSounds, u"100"_s, empty.path()}).lines.isEmpty());
+            QVERIFY(runAgain({playSounds, u"100"_s, empty.path()}).lines.isEmpty());
         }
     }
 
     void whatCannotBePlayedIsLogged()
     {
         const QTemporaryDir resources;
-        const QStringList game{u"--play"_s, u"1"_s, u"100"_s, resources.path()};
+        const QStringList game{u"1"_s, u"100"_s, resources.path()};
         QByteArrayList names{"card_flip", "card_flip", "card_reset"};
         for (int i = 0; i < 6; ++i)
             names += {"card_flip", "card_flip", "card_done"};
@@ -93,7 +95,7 @@ private:
     /// The loudest sample that a turned card leaves; -1 if no device was opened.
     static int peakAt(const QString& playSounds, const QString& volume)
     {
-        const Run run = runAgain({u"--play"_s, playSounds, volume});
+        const Run run = runAgain({playSounds, volume});
         int peak = run.isDeviceOpened ? 0 : -1;
         for (const int sample : run.heard)
             peak = std::max(peak, std::abs(sample));
@@ -103,13 +105,6 @@ private:
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == u"--play"_s) {
-        play(arguments.value(2), arguments.value(3), arguments.value(4));
-        return 0;
-    }
-    SoundEffectsTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runTests<QCoreApplication, SoundEffectsTest>(argc, argv, play);
 }
 #include "sound_effects_test.moc"

@@ -37,9 +37,7 @@ void bringUp(const QByteArray& under, AppDelegate& delegate, StagePlatform& plat
         QTimer::singleShot(milliseconds, &game, act);
     };
     const auto start = [&game] { game.startNewGame(); };
-    if (under == "alert") {
-        game.showLocalizedAlert("ok");
-    } else if (under == "two alerts and a start") {
+    if (under == "two alerts and a start") {
         game.showLocalizedAlert("ok");
         game.showLocalizedAlert("ok");
         after(50, start);
@@ -68,8 +66,9 @@ void bringUp(const QByteArray& under, AppDelegate& delegate, StagePlatform& plat
 
 /// Starts a game, leaves by `way` under what stands before the colon, if anything, and
 /// prints what that brought about.
-int leaveBy(const QByteArray& fullWay)
+int leaveBy(const QStringList& arguments)
 {
+    const QByteArray fullWay = arguments.constFirst().toUtf8();
     const QByteArray way = fullWay.split(' ').constLast(); // one word
     const QByteArray under = fullWay.chopped(way.size()).replace(": ", "");
     QApplication::setQuitOnLastWindowClosed(false);
@@ -132,11 +131,10 @@ private Q_SLOTS:
     {
         const Rows<int> row{"posts"};
         for (const char* const way :
-             {"menu", "SIGTERM", "SIGINT", "SIGHUP", "session", "alert: SIGTERM",
-              "two alerts and a start: SIGTERM", "report's alert over a miss: SIGTERM",
-              "about box: SIGTERM", "preferences: SIGTERM", "preferences: keys",
-              "open menu: SIGTERM", "half a turn: SIGTERM", "won board: SIGTERM",
-              "won board: menu"})
+             {"menu", "SIGTERM", "SIGINT", "SIGHUP", "session", "two alerts and a start: SIGTERM",
+              "report's alert over a miss: SIGTERM", "about box: SIGTERM", "preferences: SIGTERM",
+              "preferences: keys", "open menu: SIGTERM", "half a turn: SIGTERM",
+              "won board: SIGTERM", "won board: menu"})
             row(way, 0);
         // Without an answer the round that asked is not dealt, which is announced, too.
         for (const char* const way :
@@ -149,19 +147,14 @@ private Q_SLOTS:
     {
         QFETCH(int, posts);
         const QString way = QString::fromLatin1(QTest::currentDataTag());
-        QCOMPARE(runAgain({u"--leave-by"_s, way}).lines.join(),
-                 u"posts %1, GameIsActive 0, entries %2"_s.arg(posts)
-                     .arg(way.startsWith(u"won") ? 1 : 0)
-                     .toUtf8());
+        QCOMPARE(runAgain({way}).lines.join(), u"posts %1, GameIsActive 0, entries %2"_s.arg(posts)
+                                                   .arg(way.startsWith(u"won") ? 1 : 0)
+                                                   .toUtf8());
     }
 };
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
-    if (argc == 3 && qstrcmp(argv[1], "--leave-by") == 0)
-        return leaveBy(argv[2]);
-    TerminationTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runTests<QApplication, TerminationTest>(argc, argv, leaveBy);
 }
 #include "termination_test.moc"
