@@ -205,13 +205,14 @@ class ReportPage(unittest.TestCase):
         self.assertEqual(self.rows()[1], ["Ben"])
 
     def test_language_and_layout_names(self):
-        self.open([record("Ann", amountCards=cards) for cards in range(1, 8)], "de_DE.UTF-8")
+        self.open([record("Ann", elapsedSeconds=75, amountCards=cards) for cards in range(1, 8)],
+                  "de_DE.UTF-8")
         self.assertEqual(self.each("html", "e.lang"), ["de"])
         self.assertEqual(self.driver.title, "Paircade-Highscores")
         self.assertRegex(self.driver.find_element(By.CLASS_NAME, "generated").text,
                          r"^Erstellt am \d\d\.\d\d\.\d{4}, \d\d:\d\d$")
         shown = self.each("tbody tr", "[...e.cells].map(c => c.textContent).join(' ')")
-        self.assertEqual(shown, [f"Ann 00:00 0 {layout} 1 Einzelspiel"
+        self.assertEqual(shown, [f"Ann 01:15 0 {layout} 1 Einzelspiel"
                                  for layout in "4x3 4x4 5x4 6x4 7x4 8x5 7".split()])
 
     def test_light_dark_and_narrow(self):
