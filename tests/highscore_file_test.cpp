@@ -219,20 +219,6 @@ private Q_SLOTS:
         }
     }
 
-    void theFileIsReplacedInOneStep()
-    {
-        const QByteArray old = '[' + solo + ']';
-        writeFile(highscoreFile(), old);
-        // Whoever has opened the old file reads it to its end.
-        QFile reader(highscoreFile());
-        QVERIFY(reader.open(QIODevice::ReadOnly));
-
-        QVERIFY(writeHighscores(highscoreFile(), HighscoreEntries(10'000)));
-        QCOMPARE(readHighscores(highscoreFile()).entries->size(), std::size_t{10'000});
-        QCOMPARE(reader.readAll(), old);
-        QCOMPARE(QDir(highscoreFolder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
-    }
-
     void wantOfMemoryHandlesOrADiskIsNoFaultOfTheFile()
     {
         QVERIFY(!readHighscores(highscoreFile()).mustStay);

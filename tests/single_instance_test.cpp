@@ -109,6 +109,8 @@ private Q_SLOTS:
         {
             const AsNobody nobody(m_home->path());
             QCOMPARE(SingleInstance().claim(m_data, {}), Claim::isOurs);
+            forbid(m_data + u"/lock"_s); // then it may be that of a game
+            QCOMPARE(SingleInstance().claim(m_data, {}), Claim::noAnswer);
         }
         forbid(m_data, 0755);
         QCOMPARE(contentsOf(m_data + u"/lock"_s), lockOf(longGone));

@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The reader of the results accepts what a slow and obvious one accepts, which builds
-// the whole tree first; what it accepts is JSON to Qt's parser, too, and once written is
-// read as it was.
+// the whole tree first; and what it has accepted is, once written, read as it was.
 #include "fuzz.h"
 #include "highscores/highscore_file.h"
 
-#include <QJsonDocument>
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
@@ -87,12 +85,4 @@ void tryInput(const QByteArray& input)
     require(written == encodeHighscores(*expected), "the same is read");
     const auto readBack = decodeHighscores(written);
     require(readBack && encodeHighscores(*readBack) == written, "what is written is read back");
-    QJsonParseError error;
-    QJsonDocument::fromJson(input, &error);
-    // Qt's parser has limits of its own: to depth, and numbers so small that they count as 0.
-    const bool isTooSmall = error.error == QJsonParseError::IllegalNumber &&
-                            input.mid(error.offset - 400, 800).toLower().contains("e-");
-    require(error.error == QJsonParseError::NoError ||
-                error.error == QJsonParseError::DeepNesting || isTooSmall,
-            "what is accepted is JSON");
 }

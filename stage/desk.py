@@ -10,7 +10,7 @@ import time
 import xml.etree.ElementTree as Xml
 from pathlib import Path
 
-TRANSLATIONS = Path(__file__).resolve().parents[2] / "resources" / "translations"
+TRANSLATIONS = Path(__file__).resolve().parents[1] / "resources" / "translations"
 
 
 def texts(language):
