@@ -120,11 +120,11 @@ private Q_SLOTS:
             return items.join(u' ');
         };
         QCOMPARE(enabled(), QString());
-        window.click(u"reportButton"_s);
 
         window.type(u"Ann"_s);
         QCoreApplication::processEvents();
         QCOMPARE(enabled(), u"new_game"_s);
+        window.click(u"reportButton"_s);
         window.choose(u"menu_new_game"_s);
         QVERIFY(window.game().isGameActive());
         QCOMPARE(enabled(), u"end_game"_s);
