@@ -201,7 +201,9 @@ private Q_SLOTS:
             QVERIFY2(game.isWholeForAnotherStart(stored), qPrintable(QString::number(step)));
         }
         QVERIFY2(step > 50 && stored > 1 && stored < step, "the steps were not taken one by one");
-        qInfo("%d steps, %d of them after the result was stored", step, stored);
+        const QDir folder = QFileInfo(game.platform.highscoreFile()).dir();
+        qInfo("%d steps, %d of them after the result was stored; files left over: %d", step, stored,
+              int(folder.entryList(QDir::Files).size()) - 1);
     }
 
     void killedAtAnyMomentNothingIsLost()
