@@ -3,6 +3,7 @@
 #include "decks/bundle_deck.h"
 #include "decks/deck_name.h"
 #include "platform/application_bundle.h"
+#include "platform/user_defaults.h"
 #include "stage/files.h"
 #include "support/output_of.h"
 
@@ -126,8 +127,7 @@ private Q_SLOTS:
         QFile::link(m_deck + u"b.png"_s, m_deck + u"c.txt"_s);
         QCOMPARE(load(), u"a b"_s);
         const auto pictures = loadBundleDeck(ApplicationBundle(m_bundle), u"Kids"_s);
-        QCOMPARE(pictures[0].image.width(), 7);
-        QCOMPARE(pictures[1].image.width(), 5);
+        QCOMPARE((QList{pictures[0].image.width(), pictures[1].image.width()}), (QList{7, 5}));
     }
 
     void aDeckNameIsAPath()
@@ -140,8 +140,13 @@ private Q_SLOTS:
             QCOMPARE(load(deck), u"deep"_s);
     }
 
-    void anAlbumsTitleIsTrimmedAtItsEndsOnly()
+    void deckNames()
     {
+        QCOMPARE(storedDeckName(UserDefaults(m_home->filePath(u"Paircade.conf"_s))),
+                 u"Cyberpunk"_s);
+        for (const QString& deck :
+             {u"Kids"_s, u"iPhoto"_s, u"iPhoto: \t"_s, u"iPhoto:Rome"_s, u"iphoto: Rome"_s})
+            QVERIFY2(!photoAlbumTitle(deck), qPrintable(deck));
         QCOMPARE(photoAlbumTitle(u"iPhoto:   My  Trip"_s), std::optional(u"My  Trip"_s));
     }
 
