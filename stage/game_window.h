@@ -82,7 +82,7 @@ public:
         QCoreApplication::processEvents();
     }
     /// Turns the wheel over the control.
-    static void wheel(QWidget& control, int notches)
+    void wheel(QWidget& control, int notches)
     {
         const QPointF place = control.rect().center();
         QWheelEvent event(place, control.mapToGlobal(place), {}, {0, 120 * notches}, {}, {},

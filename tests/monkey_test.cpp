@@ -185,7 +185,7 @@ private:
     {
         note(u"wheel"_s);
         QWidget* const target = oneOf(top.findChildren<QWidget*>() << &top);
-        GameWindow::wheel(*target, draw(2) ? 1 : -1);
+        m_window.wheel(*target, draw(2) ? 1 : -1);
     }
 
     QKeyCombination key()

@@ -46,7 +46,7 @@ inline Run runAgain(const QStringList& arguments, const QString& driver = QStrin
 
 /// What main() does: runs the tests, or `again` if this run is one of runAgain().
 template <class Application, class Test>
-int runTests(int argc, char* argv[], int (*again)(const QStringList& arguments))
+int runTests(int argc, char** argv, int (*again)(const QStringList& arguments))
 {
     Application application(argc, argv);
     if (QCoreApplication::arguments().value(1) == QLatin1String("--again"))
