@@ -41,7 +41,7 @@ int perform(const QStringList& script)
     std::optional<AudioPlayer> player(std::in_place, isHasty ? 500ms : AudioPlayer::idleTime);
     QElapsedTimer clock;
     qint64 slowest = 0;
-    for (const QString& step : script) {
+    for (const QString& step : script.mid(isHasty ? 1 : 0)) {
         QThread::msleep(step.toULong()); // of what is no number nothing
         clock.start();
         if (step == u"prepare"_s)
