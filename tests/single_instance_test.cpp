@@ -112,6 +112,7 @@ private Q_SLOTS:
             forbid(m_data + u"/lock"_s); // then it may be that of a game
             QCOMPARE(SingleInstance().claim(m_data, {}), Claim::noAnswer);
         }
+        forbid(m_data + u"/lock"_s, 0644);
         forbid(m_data, 0755);
         QCOMPARE(contentsOf(m_data + u"/lock"_s), lockOf(longGone));
     }
