@@ -221,7 +221,7 @@ private Q_SLOTS:
                 ::kill(child, SIGKILL);
             }
             ::waitpid(child, nullptr, 0);
-            whole = std::max(whole, length.nsecsElapsed() / 1000);
+            whole = i > 0 ? whole : length.nsecsElapsed() / 1000;
             QVERIFY(game.isWholeForAnotherStart(stored));
         }
         qInfo("%d kills, %d of them after the result was stored", kills, stored - 1);
