@@ -193,6 +193,9 @@ private Q_SLOTS:
         QCOMPARE(least.count(':'), 7);
         QCOMPARE(decodeHighscores(least)->front().playerName, u"?"_s);
         QCOMPARE(encodeHighscores({}), QByteArray("[]\n"));
+        // A file that is written anew leaves nothing beside it.
+        QVERIFY(writeHighscores(highscoreFile(), {}));
+        QCOMPARE(QDir(highscoreFolder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
     void theFolderIsMadeOnUse()
