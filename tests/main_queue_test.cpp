@@ -6,7 +6,7 @@
 #include <QEventLoop>
 #include <QTest>
 #include <QThread>
-#include <memory>
+#include <optional>
 #include <thread>
 
 using namespace std::chrono_literals;

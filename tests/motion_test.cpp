@@ -24,6 +24,7 @@ private Q_SLOTS:
     {
         setFrameTimeSource([this] { return m_now; });
     }
+    void cleanupTestCase() { setFrameTimeSource({}); }
 
     void aTurnTakesItsTimeAndCanBeOvertaken()
     {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the window shows in each state, its sizes, menu and full screen.
 #include "game/game_status.h"
-#include "platform/localized_text.h"
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
 #include "support/results.h"
