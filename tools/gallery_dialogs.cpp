@@ -35,6 +35,8 @@ private:
     {
         const Window shown = window(u"Kids"_s, 1);
         for (auto* const menu : shown->window().menuBar()->findChildren<QMenu*>()) {
+            if (menu->objectName().isEmpty())
+                continue; // Qt's own, for menus that have no room
             menu->popup(shown->window().pos());
             m_camera.keep(*menu, menu->objectName());
             menu->close();
