@@ -38,8 +38,7 @@ void complain(QtMsgType, const QMessageLogContext&, const QString& text)
 
 void tellAndDie(int signal)
 {
-    const QByteArray text = trail.join(u", "_s).toUtf8() + '\n';
-    (void)!::write(STDERR_FILENO, text.constData(), std::size_t(text.size()));
+    ::psignal(signal, qPrintable(trail.join(u", "_s)));
     (void)std::signal(signal, SIG_DFL);
     (void)std::raise(signal);
 }
@@ -205,7 +204,16 @@ private:
     void press(QWidget& top, QKeyCombination combination)
     {
         note(QKeySequence(combination).toString());
-        QTest::keyClick(top.windowHandle(), combination.key(), combination.keyboardModifiers());
+        // Not QTest::keyClick, which lets go of Ctrl or Alt in a window that an action in
+        // between may have closed.
+        const QPointer<QWindow> window = top.windowHandle();
+        const Qt::Key key = combination.key();
+        const char letter = QTest::keyToAscii(key);
+        for (const bool isDown : {true, false}) {
+            if (window)
+                QTest::simulateEvent(window, isDown, key, combination.keyboardModifiers(),
+                                     letter ? QString(QLatin1Char(letter)) : QString(), false);
+        }
         if (draw(15) == 0)
             m_window.repeat(combination.key(), {});
     }
