@@ -249,6 +249,9 @@ private Q_SLOTS:
         // An answer is kept, none is asked for again.
         QCOMPARE(int(game.loadImagesFromPhotoLibrary().size()), pictures);
         QCOMPARE(services.prompt.asked, 1);
+        // Without the helper it is of no use.
+        const PhotoLibrary library(services.photoAccess, nullptr, home.path(), u"nowhere"_s);
+        QCOMPARE(library.authorizationStatus(), PhotoAuthorization::restricted);
     }
 
 private:
