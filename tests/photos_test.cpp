@@ -4,15 +4,15 @@
 #include "decks/photo_deck.h"
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
-#include "stage/game_window.h"
+#include "stage/play.h"
+#include "stage/stage_platform.h"
 #include "support/broken_world.h"
-#include "support/photo_files.h"
 #include "support/rows.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
-#include <fcntl.h>
-#include <sys/mount.h>
+#include <filesystem>
+#include <fstream>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -38,18 +38,20 @@ bool isLike(const QColor& left, const QColor& right)
                      std::abs(left.blue() - right.blue())}) < 24;
 }
 
+/// Writes a file whose name need not be text, in a folder that it makes.
+void writeFile(const QByteArray& path, std::string_view contents = {})
+{
+    const std::filesystem::path file(path.toStdString());
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file) << contents;
+}
+
 QString words(const PhotoAssets& assets)
 {
     return QString::fromLatin1(QByteArrayList(assets.begin(), assets.end()).join(' '));
 }
 
 } // namespace
-
-/// The encoder that makes the HEIC files of this test keeps some memory for good.
-extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
-{
-    return "leak:libx265";
-}
 
 /// Reads real files with the real helper program; and, where it says so, with one
 /// whose decoders misbehave.
@@ -62,19 +64,6 @@ private Q_SLOTS:
         QCOMPARE(QProcess::execute(QStringLiteral(PAIRCADE_PYTHON),
                                    {QStringLiteral(PAIRCADE_MAKE_PHOTOS), m_made.path()}),
                  0);
-        // The same colours to the eye, in other numbers.
-        QImage wide(m_made.filePath(u"good/plain.png"_s));
-        wide.setColorSpace(QColorSpace::SRgb);
-        wide.convertToColorSpace(QColorSpace::DisplayP3);
-        QVERIFY(wide.save(m_made.filePath(u"good/wide.jpg"_s), "JPG", 95));
-        QVERIFY(wide.save(m_made.filePath(u"good/wide.png"_s)));
-        writeHeif(m_made.filePath(u"good/wide.heic"_s), wide, 1, heif_compression_HEVC);
-        for (int turned = 1; turned <= 8; ++turned)
-            writeHeif(m_made.filePath(u"good/turned%1.heic"_s.arg(turned)),
-                      QImage(m_made.filePath(u"good/turned%1.png"_s.arg(turned))), turned,
-                      heif_compression_HEVC);
-        writeHeif(m_made.filePath(u"good/turned6.avif"_s),
-                  QImage(m_made.filePath(u"good/turned6.png"_s)), 6, heif_compression_AV1);
     }
 
     void cleanupTestCase() { std::filesystem::remove_all(m_made.path().toStdString()); }
@@ -92,23 +81,15 @@ private Q_SLOTS:
     void everyFormatComesUprightAndInItsColours()
     {
         QFETCH(const QString, file);
+        const int alpha = file == u"glass.png"_s ? 128 : 255;
         const QImage image = fetch(m_made.filePath(u"good"_s)).image(QFile::encodeName(file));
         QCOMPARE(image.size(), QSize(2 * half, 2 * half));
-        QVERIFY(!image.hasAlphaChannel());
-        for (std::size_t i = 0; i < quarters.size(); ++i)
-            QVERIFY2(isLike(quarterOf(image, int(i)), quarters.at(i)),
-                     qPrintable(quarterOf(image, int(i)).name()));
-    }
-
-    void transparencyIsKept()
-    {
-        QImage glass(20, 20, QImage::Format_ARGB32);
-        glass.fill(QColor(200, 100, 0, 128));
-        QVERIFY(glass.save(m_made.filePath(u"glass.png"_s)));
-        const QImage image = fetch(m_made.path()).image("glass.png");
-        QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied);
-        QCOMPARE(image.pixelColor(half, half).alpha(), 128);
-        QVERIFY(isLike(image.pixelColor(half, half), QColor(200, 100, 0)));
+        QCOMPARE(image.hasAlphaChannel(), alpha < 255);
+        for (std::size_t i = 0; i < quarters.size(); ++i) {
+            const QColor shown = quarterOf(image, int(i));
+            QVERIFY2(isLike(shown, quarters.at(i)), qPrintable(shown.name()));
+            QCOMPARE(shown.alpha(), alpha);
+        }
     }
 
     void badFilesYieldNoPictureAndNoHarm()
@@ -143,12 +124,10 @@ private Q_SLOTS:
         for (const auto& [to, name] : std::initializer_list<std::pair<const char*, const char*>>{
                  {"/", "Everything"},
                  {"../out.jpg", "out.jpg"},
-                 {"../..", "Trip/circle"},
                  {"..", "Trip/y/circle"},
                  {"Trip/y", "Linked"},
                  {"../b.jpg", "trip/b again.jpg"},
                  {"../Trip/y", "trip/linked"},
-                 {"../Trip/y/deep.webp", "trip/deep.webp"},
                  {"nowhere.jpg", "dangling.jpg"}})
             QCOMPARE(::symlink(to, (root + name).constData()), 0);
 
@@ -169,7 +148,6 @@ private Q_SLOTS:
             "No pictures:0:|Trip:1:Trip/a.BMP Trip/clip.webm Trip/z.JPEG Trip/y/deep.webp|"
             "trip:1:trip/h.heic b.jpg Trip/y/deep.webp Trip/a.BMP Trip/clip.webm Trip/z.JPEG|\uFFFD\uFFFD:1:ÿþ/ý.tif"_s);
         QVERIFY(albumTitled(albums.albums(), u"Blanks"_s));
-        QVERIFY(!albumTitled(albums.albums(), u"films"_s));
     }
 
     void aFaultyDecoderCostsOnePicture_data()
@@ -217,6 +195,7 @@ private Q_SLOTS:
         QCOMPARE(!fetch.image("fine.jpg").isNull(), silence < round);
         QVERIFY(fetch.image("faulty.jpg").isNull());
         QVERIFY(fetch.image("fine.jpg").isNull());
+        QVERIFY(!fetch.albums().isComplete);
         QVERIFY(time.elapsed() >= leastTime && time.elapsed() < 50'000);
     }
 
@@ -231,60 +210,35 @@ private Q_SLOTS:
         QCOMPARE(~(result | (hasLandlock ? 0U : 1U)), 0U);
     }
 
-    void aDeadMountIsGivenUpAndTheRestIsPlayed()
-    {
-        const QTemporaryDir home;
-        makeDeck(home.path(), u"Alive"_s, 1);
-        QDir(home.path()).mkdir(u"dead"_s);
-        const QByteArray mount = QFile::encodeName(home.filePath(u"dead"_s));
-        const int driver = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
-        const QByteArray options =
-            "fd=" + QByteArray::number(driver) + ",rootmode=40000,user_id=0,group_id=0";
-        if (driver < 0 || ::mount("dead", mount.constData(), "fuse", 0, options.constData()) != 0)
-            QSKIP("mounting takes an administrator");
-        PhotoFetch living = fetch(home.path(), {.silence = 3s});
-        const PhotoAssets assets = living.images();
-        const bool isRead = assets.size() == 1 && !living.image(assets.front()).isNull();
-        const auto isTold = [&] {
-            PhotoFetch later = fetch(home.path(), {.silence = 3s});
-            return !later.albums(PhotoFetch::Counted::upToOne).isComplete;
-        };
-        const bool isSilenceTold = isTold();
-        ::close(driver); // from now on every call fails at once
-        const bool isFailureTold = isTold();
-        ::umount2(mount.constData(), MNT_DETACH);
-        QVERIFY(isRead && isSilenceTold && isFailureTold && !isTold());
-    }
-
     void roundsFromPhotosAndTheirAlerts_data()
     {
-        const Rows<QString, PhotoAccess, QByteArray, int> row{"deck", "answer", "alert",
-                                                              "pictures"};
-        const PhotoAccess all{PhotoAuthorization::authorized};
-        const auto part = [this](const QString& folder) {
-            return PhotoAccess{PhotoAuthorization::limited,
-                               QFile::encodeName(m_made.filePath(folder))};
-        };
-        row("no answer", u"iPhoto"_s, {}, "iphoto_access_denied", 0);
-        row("refused", u"iPhoto"_s, {PhotoAuthorization::denied}, "iphoto_access_denied", 0);
-        row("everything", u"iPhoto"_s, all, "", 6);
-        row("an album, a film in it", u"iPhoto: Rome "_s, all, "", 3);
-        row("case matters", u"iPhoto: rome"_s, all, "iphoto_album_not_found", 0);
-        row("an empty album", u"iPhoto: Empty"_s, all, "iphoto_no_images_found", 0);
-        row("a part", u"iPhoto"_s, part(u"good"_s), "", 6);
-        row("a part that is gone", u"iPhoto"_s, part(u"gone"_s), "iphoto_no_images_found", 0);
+        const Rows<QString, QString, QByteArray, int> row{"deck", "part", "alert", "pictures"};
+        row("everything", u"iPhoto"_s, {}, "", 6);
+        row("an album, a film in it", u"iPhoto: Rome "_s, {}, "", 3);
+        row("case matters", u"iPhoto: rome"_s, {}, "iphoto_album_not_found", 0);
+        row("an empty album", u"iPhoto: Empty"_s, {}, "iphoto_no_images_found", 0);
+        row("a part", u"iPhoto"_s, u"good"_s, "", 6);
+        row("a part that is gone", u"iPhoto"_s, u"gone"_s, "iphoto_no_images_found", 0);
     }
 
     void roundsFromPhotosAndTheirAlerts()
     {
         QFETCH(const QString, deck);
-        QFETCH(const PhotoAccess, answer);
+        QFETCH(const QString, part);
         QFETCH(const QByteArray, alert);
         QFETCH(const int, pictures);
-        StagePlatform services(nullptr, u"en"_s);
-        preparePhotos(services, 10);
-        if (answer.status != PhotoAuthorization::notDetermined)
-            services.prompt.answer = answer;
+        StagePlatform services;
+        makeDeck(services.home.path(), u"Many"_s, 10);
+        makeDeck(services.home.path(), u"Rome"_s, 2);
+        QDir home(services.home.path());
+        QVERIFY(home.mkdir(u"Cards/Empty"_s) && home.rename(u"Cards"_s, u"Pictures"_s));
+        QVERIFY(QFile::copy(m_made.filePath(u"good/film.mp4"_s),
+                            home.filePath(u"Pictures/Rome/c.mp4"_s)));
+        services.photos.status.reset();
+        services.prompt.answer = {PhotoAuthorization::authorized};
+        if (!part.isEmpty())
+            services.prompt.answer = {PhotoAuthorization::limited,
+                                      QFile::encodeName(m_made.filePath(part))};
         services.defaults->setString(SettingsKeys::CardDeck, deck);
         MemoryGame game;
         QCOMPARE(int(game.loadImagesFromPhotoLibrary().size()), pictures);
@@ -294,45 +248,10 @@ private Q_SLOTS:
         QCOMPARE(shown.join(u'|').section(u'|', 0, 0), localizedText(alert.constData()));
         // An answer is kept, none is asked for again.
         QCOMPARE(int(game.loadImagesFromPhotoLibrary().size()), pictures);
-        QCOMPARE(services.prompt.asked, services.prompt.answer ? 1 : 2);
-    }
-
-    void withoutTheHelperPhotosAreRestricted()
-    {
-        const QTemporaryDir home;
-        PhotoAccessStore store(home.filePath(u"access"_s));
-        store.write({PhotoAuthorization::authorized});
-        const QString helper = PhotoLibrary::helperOfRunningProgram();
-        const auto status = [&](const QString& folder, const QString& program) {
-            return PhotoLibrary(store, nullptr, folder, program).authorizationStatus();
-        };
-        QCOMPARE(status(home.path(), helper), PhotoAuthorization::authorized);
-        QCOMPARE(status(home.path(), helper + u"x"_s), PhotoAuthorization::restricted);
-        QCOMPARE(status(QString(), helper), PhotoAuthorization::restricted);
-
-        // What could not be listed is not tried again at once.
-        PhotoLibrary library(store, nullptr, home.filePath(u"gone"_s), helper);
-        QVERIFY(!library.albums().isComplete);
-        QDir(home.path()).mkdir(u"gone"_s);
-        QVERIFY(!library.albums().isComplete);
-    }
-
-    void photosArePlayedInTheWindow()
-    {
-        GameWindow window([&](StagePlatform& services) {
-            preparePhotos(services, 25);
-            services.prompt.answer = {PhotoAuthorization::authorized};
-            services.defaults->setInteger(SettingsKeys::AmountCards, 6);
-            services.defaults->setString(SettingsKeys::CardDeck, u"iPhoto: Many"_s);
-        });
-        window.startGame();
-        QSet<QRgb> colours;
-        for (const MemoryCard& card : window.game().cards())
-            colours << card.image.image.pixel(half, half);
-        QCOMPARE(colours.size(), 20);
-        while (window.game().isGameActive())
-            window.clickPair();
-        QVERIFY(window.game().gameCompleted());
+        QCOMPARE(services.prompt.asked, 1);
+        // Without the helper it is of no use.
+        const PhotoLibrary library(services.photoAccess, nullptr, home.path(), u"nowhere"_s);
+        QCOMPARE(library.authorizationStatus(), PhotoAuthorization::restricted);
     }
 
 private:
@@ -348,19 +267,6 @@ private:
         writeFile(folder + "/faulty.jpg", fault.toStdString());
         writeFile(folder + "/fine.jpg", "fine");
         return {QStringLiteral(PAIRCADE_FAULTY_PHOTOS), folder, patience};
-    }
-
-    /// Fills the pictures folder: `count` pictures in the album Many, two and a film
-    /// in Rome, none in Empty; access is asked for.
-    void preparePhotos(StagePlatform& services, int count) const
-    {
-        makeDeck(services.home.path(), u"Many"_s, count);
-        makeDeck(services.home.path(), u"Rome"_s, 2);
-        QDir home(services.home.path());
-        QVERIFY(home.mkdir(u"Cards/Empty"_s) && home.rename(u"Cards"_s, u"Pictures"_s));
-        QVERIFY(QFile::copy(m_made.filePath(u"good/film.mp4"_s),
-                            home.filePath(u"Pictures/Rome/c.mp4"_s)));
-        services.photos.status.reset();
     }
 
     QTemporaryDir m_made{};

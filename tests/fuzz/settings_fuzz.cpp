@@ -18,6 +18,7 @@ void tryInput(const QByteArray& input)
     static const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Paircade.conf"));
     writeFile(path, input);
+    const PhotoAccess answer = PhotoAccessStore(path).read(); // the defaults will stand there
 
     UserDefaults defaults(path);
     const bool hadRounds = defaults.contains(AmountRounds);
@@ -38,7 +39,6 @@ void tryInput(const QByteArray& input)
     require(deck == deck.trimmed() && photoAlbumTitle(deck).value_or(deck) != QString(u' '),
             "the name of the deck is trimmed");
 
-    const PhotoAccess answer = PhotoAccessStore(path).read();
     PhotoAccessStore copy(path);
     require(answer == PhotoAccess{} || (copy.write(answer) && copy.read() == answer),
             "an answer that was read can be kept");

@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The Paircade authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""make_photos.py FOLDER: fills FOLDER with photos for the tests, all drawn here.
+"""make_photos.py FOLDER: fills FOLDER with photos for the tests, all drawn here but for three.
 
 good/ has a picture in every format and orientation, each of which shows upright a red
 and a green quarter above a blue and a yellow one; bad/ has files that give no picture.
 """
 import pathlib
+import shutil
 import struct
 import subprocess
 import sys
@@ -14,6 +15,7 @@ import zlib
 
 from PIL import Image
 
+CORPUS = pathlib.Path(__file__).parent.parent / "fuzz" / "corpus" / "pictures"
 WIDTH, HEIGHT = 96, 64
 ORIENTATION = 0x0112
 # How an upright picture is stored for each orientation.
@@ -57,6 +59,15 @@ for orientation, change in STORED.items():
     exif[ORIENTATION] = orientation
     for kind in ("jpg", "png", "webp", "tiff"):
         stored.save(good / f"turned{orientation}.{kind}", quality=95, lossless=True, exif=exif)
+
+glass = picture.copy()
+glass.putalpha(128)
+glass.save(good / "glass.png")
+# The same colours to the eye, in other numbers, among pictures that take rare encoders.
+for name in ("wide.png", "turned.heic", "turned.avif"):
+    shutil.copy(CORPUS / name, good)
+with Image.open(good / "wide.png") as wide:
+    wide.save(good / "wide.jpg", quality=95, icc_profile=wide.info["icc_profile"])
 
 convert("-flags", "+ildct", good / "interlaced.png")
 convert("-pix_fmt", "rgb48", good / "deep.png")
