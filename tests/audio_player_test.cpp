@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/application_bundle.h"
 #include "platform/audio_player.h"
 #include "support/run_again.h"
 
@@ -160,23 +159,6 @@ private Q_SLOTS:
         QVERIFY(isReopened(secondsAfter({m_tone, u"1200"_s})));
         QVERIFY(isReopened(secondsAfter({u"prepare"_s, u"900"_s}))); // for no sound
         QVERIFY(secondsAfter({m_flat, u"1000"_s}) >= 1.9);           // while it plays
-    }
-
-    void theSoundsOfTheGameAreHeard()
-    {
-        QStringList script{u"prepare"_s, u"200"_s};
-        for (const char* const name : {"card_done", "card_reset", "card_flip", "done"}) {
-            const auto file = ApplicationBundle::ofRunningProgram().resource(
-                QString::fromLatin1(name), u"mp3"_s, u"Sounds"_s);
-            QVERIFY(file);
-            script << *file << u"900"_s;
-        }
-        const Performance run = listen(script);
-        QCOMPARE(run.lines, QByteArrayList());
-        std::size_t begin = 0;
-        for (int i = 0; i < 4; ++i)
-            begin = onset(run.heard, begin, 300) + rate * 3 / 4;
-        QVERIFY(begin < run.heard.size());
     }
 
     void neverWaitsForASoundServer()

@@ -28,16 +28,12 @@ private Q_SLOTS:
         row("a pipe as settings", "rm $settings; mkfifo $settings", {settings});
         row("a pipe as the settings' lock", "mkfifo $settings.lock",
             {settings, settings + u".lock"_s});
-        row("a folder as the settings' lock", "mkdir $settings.lock",
-            {settings, settings + u".lock"_s});
         row("a file as the folder of settings", "rm -r config; echo > config", {u"config"_s});
         row("a file as the folder of results", "rm -r data; echo > data", {u"data"_s});
         row("a lock cut short by a crash", ": >data/Paircade/lock", {results});
         row("a lock from before the machine was renamed",
             "printf '1\\npaircade\\nelsewhere\\n' >data/Paircade/lock", {results});
         row("a pipe as the lock", "mkfifo data/Paircade/lock", {results, lock});
-        row("a folder as the lock", "mkdir data/Paircade/lock", {results, lock});
-        row("a link to nowhere as the lock", "ln -s nowhere data/Paircade/lock", {results, lock});
         row("no runtime folder", "rm -r runtime; echo >runtime", {results, u"runtime"_s});
         row("standard streams closed",
             "mv bin/paircade bin/it;"
@@ -45,10 +41,6 @@ private Q_SLOTS:
             "chmod 755 bin/paircade",
             {results});
         row("no resources", "rm -r share", {results});
-        row("a pipe as logo and texts",
-            "rm -r share; mkdir -p share/paircade/translations; cd share/paircade;"
-            "mkfifo logo.png icon.png translations/paircade_en.qm",
-            {results, u"share/paircade/logo.png"_s, u"share/paircade/translations"_s});
     }
 
     void theProgramStartsAndEnds()

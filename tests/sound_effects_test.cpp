@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Plays a real game with the settings PlaySounds and VolumeSound: turns one card, or all
-/// after a miss if a third argument says which folder has the sounds.
+/// Plays a real game, a miss first, with the settings PlaySounds and VolumeSound, and with
+/// the sounds of the folder that a third argument names.
 int play(const QStringList& arguments)
 {
     const QString resources = arguments.value(2);
@@ -27,14 +27,10 @@ int play(const QStringList& arguments)
     MemoryGame game;
     game.setPlayerName(u"Ann"_s);
     game.startNewGame();
-    if (resources.isEmpty()) {
-        flip(game, 0);
-    } else {
-        miss(game);
-        (void)QTest::qWaitFor([&game] { return !game.isCheckingPair(); });
-        while (game.isGameActive())
-            findPair(game);
-    }
+    miss(game);
+    (void)QTest::qWaitFor([&game] { return !game.isCheckingPair(); });
+    while (game.isGameActive())
+        findPair(game);
     QTest::qWait(500);
     return 0;
 }
@@ -47,7 +43,7 @@ class SoundEffectsTest : public QObject {
 private Q_SLOTS:
     void volumeIsAShareBetweenNothingAndAll()
     {
-        const int full = peakAt(u"1"_s, u"100"_s);
+        const int full = peakAt(u"1"_s, u"100"_s); // of all sounds that there are
         QVERIFY(full > 5000);
         const std::map<QString, double> shares{
             {u"50"_s, 0.5}, {u"150"_s, 1}, {u"-5"_s, 0}, {u"nan"_s, 0}};
@@ -60,11 +56,9 @@ private Q_SLOTS:
 
     void onlyExactlyOneTurnsSoundsOn()
     {
-        const QTemporaryDir empty;
         for (const QString& playSounds : {u"0"_s, u"2"_s, u"true"_s}) {
             // The device is not even opened.
             QCOMPARE(peakAt(playSounds, u"100"_s), -1);
-            QVERIFY(runAgain({playSounds, u"100"_s, empty.path()}).lines.isEmpty());
         }
     }
 
@@ -92,10 +86,12 @@ private Q_SLOTS:
     }
 
 private:
-    /// The loudest sample that a turned card leaves; -1 if no device was opened.
+    /// The loudest sample of a game; -1 if no device was opened.
     static int peakAt(const QString& playSounds, const QString& volume)
     {
         const Run run = runAgain({playSounds, volume});
+        if (!run.lines.isEmpty())
+            QTest::qFail("a sound of the game cannot be played", __FILE__, __LINE__);
         int peak = run.isDeviceOpened ? 0 : -1;
         for (const int sample : run.heard)
             peak = std::max(peak, std::abs(sample));
