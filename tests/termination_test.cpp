@@ -51,6 +51,8 @@ void bringUp(const QByteArray& under, AppDelegate& delegate, StagePlatform& plat
             after(120, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
     } else if (under == "about box" || under == "preferences") {
         choose(under == "about box" ? "menu_about" : "menu_preferences");
+    } else if (under == "half a turn") {
+        after(150, [&game] { flip(game, 0); });
     }
 }
 
@@ -121,7 +123,7 @@ private Q_SLOTS:
         for (const char* const way :
              {"menu", "SIGTERM", "SIGINT", "SIGHUP", "session", "two alerts and a start: SIGTERM",
               "report's alert over a miss: SIGTERM", "about box: SIGTERM", "preferences: SIGTERM",
-              "preferences: keys"})
+              "preferences: keys", "half a turn: SIGTERM"})
             row(way, 0);
         // Without an answer the round that asked is not dealt, which is announced, too.
         for (const char* const way : {"close", "preferences: close", "photo question: SIGTERM",
