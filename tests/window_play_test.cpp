@@ -46,10 +46,6 @@ private Q_SLOTS:
         QCOMPARE(m_window->text(u"bestTimes1"_s), u"1. Ann – "_s + game().formattedElapsedTime());
         QCOMPARE(m_window->text(u"bestFailures1"_s), u"1. Ann – 1"_s);
         QVERIFY(m_window->platform.readHighscoreFile().contains("\"playerName\": \"Ann\""));
-
-        // The next start takes the result away.
-        m_window->startGame({});
-        QCOMPARE(m_window->text(u"headerText"_s), u"Round 1 of 1"_s);
     }
 
     void aWholeGameByKeyboard()
@@ -106,17 +102,14 @@ private Q_SLOTS:
         m_window->click(u"versusCheckbox"_s);
         QCOMPARE(m_window->focused(), u"versusCheckbox"_s);
         QCOMPARE(m_window->text(u"pairingLine"_s), u"Player 1 vs Player 2"_s);
-        QVERIFY(!isVisible(u"timeLine"_s));
 
         m_window->click(u"playerOneName"_s);
         m_window->type(u"Ann"_s);
         m_window->press(Qt::Key_Tab);
-        QVERIFY(!m_window->child<QWidget>(u"startVersusButton"_s).isEnabled());
         m_window->startGame(u"Ben"_s); // in vain: Return only ends the name
         QVERIFY(!game().isGameActive());
         m_window->click(u"startVersusButton"_s);
         QVERIFY(game().isGameActive());
-        QVERIFY(!m_window->child<QWidget>(u"versusCheckbox"_s).isEnabled());
 
         m_window->clickPair();
         QCOMPARE(m_window->text(u"firstScoreLine"_s), u"Ann: 1"_s);
