@@ -116,7 +116,8 @@ private Q_SLOTS:
         QCOMPARE(m_window->text(u"secondScoreLine"_s), u"Ben: 0"_s);
 
         // Ended by hand, the game is recorded once; what is left is no place to slip.
-        pressAt(u"endButton"_s);
+        QTest::mouseClick(m_window->window().windowHandle(), Qt::LeftButton, {},
+                          placeOn(u"endButton"_s));
         m_window->child<QAbstractButton>(u"endButton"_s).click(); // before the screen follows
         QCOMPARE(m_window->platform.readHighscoreFile().count("\"id\""), 1);
         QCoreApplication::processEvents();
@@ -130,11 +131,6 @@ private:
     MemoryGame& game() { return m_window->game(); }
     bool isVisible(const QString& name) { return m_window->child<QWidget>(name).isVisible(); }
 
-    /// Clicks without letting anything happen before or after.
-    void pressAt(const QString& name)
-    {
-        QTest::mouseClick(m_window->window().windowHandle(), Qt::LeftButton, {}, placeOn(name));
-    }
     QPoint placeOn(const QString& name)
     {
         return m_window->child<QWidget>(name).mapTo(&m_window->window(), QPoint(10, 5));
