@@ -71,46 +71,39 @@ class KeyboardTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void tabGoesInReadingOrder_data()
-    {
-        // The stops are those after the sidebar's buttons.
-        const Rows<QString, bool, QString> row{"names", "isStarted", "stops"};
-        row("one player", u"Ann"_s, false, u"versusCheckbox playerName startButton"_s);
-        row("two players", u"Ann Ben"_s, false,
-            u"versusCheckbox playerOneName playerTwoName startVersusButton"_s);
-        row("a game: the board is one stop", u"Ann"_s, true, u"endButton card5"_s);
-    }
-
     void tabGoesInReadingOrder()
     {
-        QFETCH(QString, names);
-        QFETCH(bool, isStarted);
-        QFETCH(QString, stops);
         GameWindow window;
-        if (names.contains(u' ')) {
-            window.press(Qt::Key_M, Qt::AltModifier);
-            QTRY_VERIFY(window.game().isVersusMode());
-            QTest::qWait(20);
-            window.press(Qt::Key_Tab);
+        // From wherever it begins. `stops` are those after the sidebar's buttons.
+        const auto goRound = [&window](const QString& stops) {
+            const QStringList order = u"resetButton reportButton "_s.append(stops).split(u' ');
+            const auto begin = order.indexOf(window.focused());
+            QVERIFY2(begin >= 0, qPrintable(window.focused()));
+            for (qsizetype i = 1; i <= order.size(); ++i) {
+                window.press(Qt::Key_Tab);
+                QCOMPARE(window.focused(), order[(begin + i) % order.size()]);
+            }
+        };
+        window.type(u"Ann"_s);
+        window.press(Qt::Key_Tab);
+        goRound(u"versusCheckbox playerName startButton"_s);
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Right})
+            window.press(key);
+        goRound(u"endButton card5"_s); // the board is one stop
+        window.choose(u"menu_end_game"_s);
+
+        // A letter that is held acts once.
+        for (const bool isRepeat : {false, true, true}) {
+            QTest::simulateEvent(window.window().windowHandle(), true, Qt::Key_M, Qt::AltModifier,
+                                 u"m"_s, isRepeat);
+            QTest::qWait(150); // as long as such a button is down
+            QVERIFY(window.game().isVersusMode());
         }
-        for (const QString& name : names.split(u' ')) {
+        for (const QString& name : {u""_s, u"Ann"_s, u"Ben"_s}) {
             window.type(name);
             window.press(Qt::Key_Tab);
         }
-        if (isStarted) {
-            for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Down, Qt::Key_Right})
-                window.press(key);
-        }
-        // Round in full, from wherever it begins, and back.
-        const QStringList order = u"resetButton reportButton "_s.append(stops).split(u' ');
-        const auto begin = order.indexOf(window.focused());
-        QVERIFY2(begin >= 0, qPrintable(window.focused()));
-        for (qsizetype i = 1; i <= order.size(); ++i) {
-            window.press(Qt::Key_Tab);
-            QCOMPARE(window.focused(), order[(begin + i) % order.size()]);
-        }
-        window.press(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(window.focused(), order[(begin + order.size() - 1) % order.size()]);
+        goRound(u"versusCheckbox playerOneName playerTwoName startVersusButton"_s);
     }
 
     void everyControlHasItsLetterAndRoom_data()
@@ -138,57 +131,23 @@ private Q_SLOTS:
         window.click(u"versusCheckbox"_s);
         checkScreen();
 
+        const auto checkDialog = [](const QWidget& dialog) {
+            checkMnemonics(mnemonics(dialog));
+            QTest::qWait(20); // the layout
+            QCOMPARE(cutText(dialog), QString());
+        };
         for (const auto status : {PhotoAuthorization::notDetermined, PhotoAuthorization::denied}) {
             window.platform.photos.status = status;
             window.delegate.showPreferences();
             auto& preferences = window.child<QWidget>(u"Preferences"_s);
-            checkMnemonics(mnemonics(preferences));
-            QTest::qWait(20); // the layout
-            QCOMPARE(cutText(preferences), QString());
+            checkDialog(preferences);
             delete &preferences;
         }
-
-        bool isAsked = false;
-        whenShown<AccessDialog>([&isAsked](AccessDialog& question) {
-            isAsked = true;
-            checkMnemonics(mnemonics(question));
-            QCOMPARE(cutText(question), QString());
+        whenShown<AccessDialog>([&](AccessDialog& question) {
+            checkDialog(question);
             question.close();
         });
         QVERIFY(!AccessQuestion(QString()).askForPhotoAccess());
-        QVERIFY(isAsked);
-    }
-
-    void aKeyHeldOnAnAlertActsOnNothing()
-    {
-        GameWindow window;
-        window.type(u"Ann"_s);
-        window.game().showLocalizedAlert("enter_name");
-        bool isAlerted = false;
-        whenAlerted([&isAlerted](QMessageBox& alert) {
-            isAlerted = true;
-            GameWindow::repeatOn(alert, Qt::Key_Return, u"\r"_s);
-            QVERIFY(alert.isVisible());
-        });
-        QTRY_VERIFY(isAlerted && QApplication::activeModalWidget() == nullptr);
-        window.repeat(Qt::Key_Return, u"\r"_s);
-        QVERIFY(!window.game().isGameActive());
-        window.press(Qt::Key_Return);
-        QVERIFY(window.game().isGameActive());
-    }
-
-    void aHeldShortcutActsOnce()
-    {
-        GameWindow window;
-        window.press(Qt::Key_M, Qt::AltModifier);
-        QTRY_VERIFY(window.game().isVersusMode());
-        for (int i = 0; i < 3; ++i) {
-            QTest::simulateEvent(window.window().windowHandle(), true, Qt::Key_M, Qt::AltModifier,
-                                 u"m"_s, true);
-            QTest::qWait(150); // as long as such a button is down
-        }
-        QVERIFY(window.game().isVersusMode());
-        QCOMPARE(window.game().playerOneName(), QString());
     }
 
     void theFocusIsSeenOnEverySurface()

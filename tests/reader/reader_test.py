@@ -145,11 +145,6 @@ class Game:
     def focused(self):
         return [one.name for one in every(self.window) if has(one, pyatspi.STATE_FOCUSED)]
 
-    def nameless(self):
-        """What can have the focus and has no name."""
-        return [one for one in every(self.window) if not one.name and
-                has(one, pyatspi.STATE_FOCUSABLE) and has(one, pyatspi.STATE_SHOWING)]
-
     def open_preferences(self):
         """From here on these are the window."""
         self.press(ITEM, "Preferences…")
@@ -203,22 +198,16 @@ class ReaderTest(unittest.TestCase):
     def test_one_player(self):
         game = self.start(AmountCards=1, AmountRounds=1)
         self.assertEqual(game.focused(), ["Enter your name"])
-        self.assertEqual(game.nameless(), [])
-        game.press(ITEM, "Announce the Score")
-        game.expect("No game is running.")
         game.write("Enter your name", "Ann")
         game.press(BUTTON, "Start Game")
         game.expect("Round 1 of 1. Cards dealt: 3 rows, 4 columns.")
         self.assertEqual(game.focused(), ["Row 1, column 1, face down"])
-        self.assertEqual(game.nameless(), [])
         game.press(ITEM, "Announce the Score")
         game.expect("Round 1 of 1. Time: TIME. Failed attempts: 0. Pairs left: 6.")
 
         result = "Well done, Ann! TIME · Failed attempts: {}."
         self.find_all(lambda event: "", lambda: " " + result.format(self.misses))
         self.assertEqual(game.focused(), ["Enter your name"])
-        game.press(ITEM, "Announce the Score")
-        game.expect(result.format(self.misses))
 
     def test_two_players_and_two_rounds(self):
         game = self.start(AmountCards=1, AmountRounds=2)
@@ -256,39 +245,13 @@ class ReaderTest(unittest.TestCase):
         game.open_preferences()
         self.assertEqual([(one.getRole(), one.name) for one in game.window
                           if one.getRole() != pyatspi.ROLE_FILLER], PREFERENCES)
-        captions = [relation.getTarget(0).name
-                    for relation in game.find(COMBO_BOX, "Kids").getRelationSet()
-                    if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY]
-        self.assertEqual(captions, ["Deck:"])
-
         rounds = game.find(STEPPER, "Rounds:")
         self.assertTrue(has(rounds, pyatspi.STATE_FOCUSED))
         self.assertEqual(rounds.description, "2 rounds per game")
-        act(rounds, "Increase")
-        game.expect_stored("AmountRounds", 3)
-        rounds.queryEditableText().setTextContents("12")
-        game.expect_stored("AmountRounds", 12)
-        game.find(STEPPER, "Card layout:").queryValue().currentValue = 5
-        game.expect_stored("AmountCards", 5)
-        act(game.find(SLIDER, "Volume:"), "Increase")
-        game.expect_stored("VolumeSound", 55)
         box = game.find(CHECK_BOX, "Play sounds")
         act(box, "Toggle")
         game.expect_stored("PlaySounds", 1)
         self.assertTrue(has(box, pyatspi.STATE_CHECKED))
-
-    def test_a_running_game_locks_the_steppers(self):
-        game = self.start(GameIsActive=1, AmountRounds=2, AmountCards=2)
-        game.open_preferences()
-        for name in ("Rounds:", "Card layout:"):
-            stepper = game.find(STEPPER, name)
-            self.assertFalse(has(stepper, pyatspi.STATE_ENABLED))
-            self.assertEqual(stepper.description, "Can be changed when the game is over.")
-            act(stepper, "Increase")
-            stepper.queryValue().currentValue = 5
-            self.assertEqual(stepper.queryValue().currentValue, 2)
-        game.expect_stored("AmountRounds", 2)
-        game.expect_stored("AmountCards", 2)
 
     def tearDown(self):
         # Nothing was said twice, and nothing comes after.
