@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where everything lies and how large it is, measured on the real window; and that all
-// of it can be read and reached on small and large screens.
+// Where everything lies, how large it is and in which font, measured on the real
+// window; and that all of it can be read and reached on small and large screens.
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
 #include "support/results.h"
@@ -9,6 +9,7 @@
 #include "support/texts_fit.h"
 #include "ui/elided_label.h"
 
+#include <QFontDatabase>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -24,31 +25,36 @@ enum class Mode { solo, versus, both };
 struct Place {
     const char* name;
     Mode mode;
+    int pixelSize;
+    int weight;
+    bool isMonospaced;
     int width; ///< 0: what the text asks for.
     int above; ///< In addition to the gap of 12.
     int below;
+    const char* colour = nullptr; ///< Of its text, if it is not the window's.
 };
 
+constexpr int semibold = 600;
 constexpr std::array sidebar{
-    Place{"pairingLine", Mode::versus, 180, 0, 0},
-    Place{"firstScoreLine", Mode::versus, 220, 0, 0},
-    Place{"secondScoreLine", Mode::versus, 220, 0, 0},
-    Place{"nameLine", Mode::solo, 180, 0, 0},
-    Place{"timeLine", Mode::solo, 220, 0, 0},
-    Place{"failuresLine", Mode::solo, 220, 0, 0},
-    Place{"bestTimesHeading", Mode::solo, 220, 12, 0},
-    Place{"bestTimes1", Mode::solo, 220, 0, 0},
-    Place{"bestTimes2", Mode::solo, 220, 0, 0},
-    Place{"bestFailuresHeading", Mode::solo, 220, 10, 0},
-    Place{"bestFailures1", Mode::solo, 220, 0, 0},
-    Place{"bestFailures2", Mode::solo, 220, 0, 0},
-    Place{"bestVersusHeading", Mode::versus, 220, 12, 0},
-    Place{"bestVersus1", Mode::versus, 220, 0, 0},
-    Place{"bestVersus2", Mode::versus, 220, 0, 0},
-    Place{"resetButton", Mode::both, 0, 10, 0},
-    Place{"reportButton", Mode::both, 0, 6, 0},
-    Place{"versusCheckbox", Mode::both, 0, 0, 8},
-    Place{"endButton", Mode::both, 0, 6, 0},
+    Place{"pairingLine", Mode::versus, 16, semibold, false, 180, 0, 0, "#f2007aff"}, // 95 %
+    Place{"firstScoreLine", Mode::versus, 14, semibold, true, 220, 0, 0},
+    Place{"secondScoreLine", Mode::versus, 14, semibold, true, 220, 0, 0},
+    Place{"nameLine", Mode::solo, 18, semibold, false, 180, 0, 0, "#f2007aff"},
+    Place{"timeLine", Mode::solo, 14, semibold, true, 220, 0, 0},
+    Place{"failuresLine", Mode::solo, 14, semibold, true, 220, 0, 0},
+    Place{"bestTimesHeading", Mode::solo, 13, semibold, false, 220, 12, 0, "#ff5f5f5f"},
+    Place{"bestTimes1", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestTimes2", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestFailuresHeading", Mode::solo, 13, semibold, false, 220, 10, 0, "#ff5f5f5f"},
+    Place{"bestFailures1", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestFailures2", Mode::solo, 12, 400, true, 220, 0, 0},
+    Place{"bestVersusHeading", Mode::versus, 13, semibold, false, 220, 12, 0},
+    Place{"bestVersus1", Mode::versus, 12, 400, true, 220, 0, 0},
+    Place{"bestVersus2", Mode::versus, 12, 400, true, 220, 0, 0},
+    Place{"resetButton", Mode::both, 12, semibold, false, 0, 10, 0},
+    Place{"reportButton", Mode::both, 12, semibold, false, 0, 6, 0},
+    Place{"versusCheckbox", Mode::both, 13, semibold, false, 0, 0, 8},
+    Place{"endButton", Mode::both, 12, semibold, false, 0, 6, 0, "#ffff3b30"},
 };
 
 } // namespace
@@ -57,9 +63,9 @@ class GeometryTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everythingHasItsPlace_data() { addRows({1, 2, 3, 4, 5, 6}, {u"en"_s}); }
+    void everythingHasItsPlaceAndFont_data() { addRows({1, 2, 3, 4, 5, 6}, {u"en"_s}); }
 
-    void everythingHasItsPlace()
+    void everythingHasItsPlaceAndFont()
     {
         openWindow(2, u"Mia"_s);
         for (const bool isVersus : {false, true}) {
@@ -167,6 +173,7 @@ private:
         QCOMPARE(place(title).width(), strip.width());
         QCOMPARE(place(title).center(), strip.center());
         QCOMPARE(title.alignment(), Qt::AlignCenter);
+        compareFont(title, 30, 700, false);
 
         measureSidebar(isVersus, isActive, hasNames);
         for (QWidget* const control : formOf(true) + formOf(false))
@@ -195,6 +202,10 @@ private:
             y += 12 + expected.above;
             QVERIFY2(rect.topLeft() == QPoint(16, y), expected.name);
             QVERIFY2(expected.width == 0 || rect.width() == expected.width, expected.name);
+            compareFont(widget, expected.pixelSize, expected.weight, expected.isMonospaced);
+            const QColor colour = widget.palette().color(QPalette::Active, widget.foregroundRole());
+            if (expected.colour != nullptr)
+                QCOMPARE(colour.name(QColor::HexArgb), QLatin1String(expected.colour));
             y += rect.height() + expected.below;
         }
         QCOMPARE(child("versusCheckbox").isEnabled(), !isActive);
@@ -212,10 +223,16 @@ private:
             QCOMPARE(rect.top(), y);
             QVERIFY(qAbs(rect.left() + rect.right() + 1 - (236 + screen().width())) <= 1);
             y = rect.bottom() + 1 + 16;
-            if (control != column.constLast())
-                QCOMPARE(rect.width(), isVersus ? 320 : 300);
+            if (control == column.constLast())
+                continue;
+            QCOMPARE(rect.width(), isVersus ? 320 : 300);
+            compareFont(*control, 18, 400, false);
         }
         QCOMPARE(column.constLast()->isEnabled(), hasNames);
+        if (isVersus)
+            QCOMPARE(column.constLast()->font(), QApplication::font("QPushButton"));
+        else
+            compareFont(*column.constLast(), 14, semibold, false);
     }
 
     void measureBoard()
@@ -237,6 +254,15 @@ private:
             QVERIFY(qAbs(card.top() - (top + row * (edge + 20))) <= 1);
             QVERIFY(card.width() == card.height() && qAbs(card.width() - edge) <= 0.5);
         }
+    }
+
+    static void compareFont(const QWidget& widget, int pixelSize, int weight, bool isMonospaced)
+    {
+        const QByteArray name = widget.objectName().toUtf8();
+        QVERIFY2(widget.font().pixelSize() == pixelSize, name);
+        QVERIFY2(widget.font().weight() == weight, name);
+        const auto kind = isMonospaced ? QFontDatabase::FixedFont : QFontDatabase::GeneralFont;
+        QVERIFY2(widget.font().family() == QFontDatabase::systemFont(kind).family(), name);
     }
 
     /// Scrolls until `widget` is seen.

@@ -3,6 +3,7 @@
 // Plays in the real window with mouse and keyboard.
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
+#include "support/rows.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,11 +33,6 @@ private Q_SLOTS:
         QCOMPARE(m_window->text(u"nameLine"_s), u"Ann"_s);
         QCOMPARE(m_window->text(u"headerText"_s), u"Round 1 of 1"_s);
 
-        m_window->clickCard(0);
-        m_window->clickCard(otherCard(game(), 0, false));
-        QCOMPARE(m_window->text(u"failuresLine"_s), u"Failed attempts: 1"_s);
-        m_window->clickCard(hiddenCard(game())); // in vain
-        QTRY_COMPARE(faceUpCards(game()), 0);
         while (game().isGameActive())
             m_window->clickPair();
         QVERIFY(game().gameCompleted());
@@ -44,7 +40,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->card(0).isVisible());
         QCOMPARE(m_window->focused(), u"playerName"_s);
         QCOMPARE(m_window->text(u"bestTimes1"_s), u"1. Ann – "_s + game().formattedElapsedTime());
-        QCOMPARE(m_window->text(u"bestFailures1"_s), u"1. Ann – 1"_s);
+        QCOMPARE(m_window->text(u"bestFailures1"_s), u"1. Ann – 0"_s);
         QVERIFY(m_window->platform.readHighscoreFile().contains("\"playerName\": \"Ann\""));
     }
 
@@ -97,6 +93,46 @@ private Q_SLOTS:
         QCOMPARE(m_window->focused(), u"card39"_s);
     }
 
+    void aMissBlocksClicksAndTurnsBackUnderOrAfterAnAlert_data()
+    {
+        const Rows<bool, std::ptrdiff_t, QString> row{"isReport", "openMeanwhile", "told"};
+        row("of the report, shown at once", true, 0,
+            u"The highscore page could not be saved|Filename refers to a directory|OK"_s);
+        row("queued, holding back what falls due", false, 2, u"OK||OK"_s);
+    }
+
+    void aMissBlocksClicksAndTurnsBackUnderOrAfterAnAlert()
+    {
+        QFETCH(bool, isReport);
+        m_window->startGame();
+        m_window->clickCard(0);
+        m_window->clickCard(otherCard(game(), 0, false));
+        QCOMPARE(m_window->text(u"failuresLine"_s), u"Failed attempts: 1"_s);
+        m_window->clickCard(hiddenCard(game())); // in vain
+        std::ptrdiff_t open = -1;
+        QString told;
+        QTimer::singleShot(1500, qApp, [&] {
+            open = faceUpCards(game());
+            whenAlerted([&](QMessageBox& box) {
+                QCOMPARE(box.icon(), QMessageBox::Warning);
+                const QString button = box.buttons().constFirst()->text();
+                told = box.text() + u'|' + box.informativeText() + u'|' + button;
+            });
+        });
+        if (isReport) { // a folder in its place
+            QDir().mkpath(m_window->platform.home.filePath(u"data/Paircade/highscores.html/x"_s));
+            game().openHighscoresHTML();
+        } else {
+            game().showLocalizedAlert("ok");
+        }
+        QTRY_VERIFY(open >= 0 && QApplication::activeModalWidget() == nullptr);
+        QTEST(open, "openMeanwhile");
+        QTEST(told, "told");
+        QTRY_COMPARE(faceUpCards(game()), 0);
+        m_window->clickPair();
+        QCOMPARE(faceUpCards(game()), 2);
+    }
+
     void aVersusGameByMouse()
     {
         m_window->click(u"versusCheckbox"_s);
@@ -127,6 +163,28 @@ private Q_SLOTS:
         QVERIFY(m_window->text(u"headerText"_s).isEmpty());
     }
 
+    /// No event comes in between: the screen has not followed yet.
+    void inputInAHurryActsOnWhatTheGameHasComeTo()
+    {
+        m_window->type(u"Ann"_s);
+        QCoreApplication::processEvents();
+        auto& checkbox = m_window->child<QAbstractButton>(u"versusCheckbox"_s);
+        pressAt(u"startButton"_s);
+        pressAt(u"versusCheckbox"_s);
+        QVERIFY(game().isGameActive() && !game().isVersusMode());
+        checkbox.click();
+        QVERIFY(!game().isVersusMode() && !checkbox.isChecked());
+
+        game().endGame();
+        QCoreApplication::processEvents();
+        game().startNewGame(); // the form is still shown, with the focus on its field
+        for (const bool isPress : {true, false})
+            QTest::simulateEvent(m_window->window().windowHandle(), isPress, Qt::Key_Space, {},
+                                 u" "_s, false);
+        QVERIFY(game().cards()[0].isFaceUp);
+        QCOMPARE(game().playerName(), u"Ann"_s);
+    }
+
 private:
     MemoryGame& game() { return m_window->game(); }
     bool isVisible(const QString& name) { return m_window->child<QWidget>(name).isVisible(); }
@@ -134,6 +192,12 @@ private:
     QPoint placeOn(const QString& name)
     {
         return m_window->child<QWidget>(name).mapTo(&m_window->window(), QPoint(10, 5));
+    }
+
+    /// Clicks without letting anything happen before or after.
+    void pressAt(const QString& name)
+    {
+        QTest::mouseClick(m_window->window().windowHandle(), Qt::LeftButton, {}, placeOn(name));
     }
 
     /// Goes to the card and presses the key there.
