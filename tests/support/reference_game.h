@@ -28,7 +28,6 @@ public:
     HighscoreEntries file{}, removed{};
     Miss delayed{}, due{}; ///< Waiting for its time, or in the main queue.
     QStringList queuedAlerts{}, alerts{};
-    QByteArray log{};
     QList<int> posts{};                ///< What the setting was at each.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
@@ -111,12 +110,7 @@ public:
         if (isAlbum || isLibrary)
             queuedAlerts << (localizedText("iphoto_access_denied") + u'|' +
                              localizedText("iphoto_access_denied_info") + u"|OK"_s);
-        else if (deck.isEmpty())
-            log += "CardDeck ist leer\n";
-        else if (!deckSizes.contains(deck))
-            log += "Ordnerinhalt konnte nicht gelesen werden: " + deckFolder + deck.toUtf8() + '\n';
-        const int pictures = isAlbum || isLibrary ? 0 : deckSizes.value(deck);
-        if (pictures < pairs) {
+        if (deckSizes.value(deck) < pairs) {
             const QString message =
                 isAlbum     ? localizedText("iphoto_not_enough_images_in_album", {pairs})
                 : isLibrary ? localizedText("iphoto_not_enough_images", {pairs})
@@ -236,26 +230,28 @@ public:
     void updateLists()
     {
         using Entry = const HighscoreEntry&;
-        const auto best = [this](const QString& modeOfList, auto key) {
+        const auto best = [this](auto key) {
             HighscoreEntries kept = file;
-            std::erase_if(kept, [&](Entry entry) {
+            std::erase_if(kept, [this](Entry entry) {
                 return entry.amountCards != layout() || entry.amountRounds != rounds() ||
-                       entry.gameMode != mode() || modeOfList != mode();
+                       entry.gameMode != mode();
             });
             std::ranges::stable_sort(kept, {}, key);
             kept.resize(std::min<std::size_t>(kept.size(), 10));
             return kept;
         };
-        const auto time = [](Entry e) { return std::pair(e.elapsedSeconds, e.failedAttempts); };
-        const auto failures = [](Entry e) { return std::pair(e.failedAttempts, e.elapsedSeconds); };
         const auto lead = [](Entry e) {
             return std::pair(-std::abs(*e.firstPlayerScore - *e.secondPlayerScore),
                              e.elapsedSeconds);
         };
+        const auto time = [](Entry e) { return std::pair(e.elapsedSeconds, e.failedAttempts); };
+        const auto failures = [](Entry e) { return std::pair(e.failedAttempts, e.elapsedSeconds); };
         if (isVersusMode)
-            assign(bestVersusScores, best(u"versus"_s, lead), Member::bestVersusScores);
-        assign(bestTimeScores, best(u"solo"_s, time), Member::bestTimeScores);
-        assign(bestFailureScores, best(u"solo"_s, failures), Member::bestFailureScores);
+            assign(bestVersusScores, best(lead), Member::bestVersusScores);
+        assign(bestTimeScores, isVersusMode ? HighscoreEntries() : best(time),
+               Member::bestTimeScores);
+        assign(bestFailureScores, isVersusMode ? HighscoreEntries() : best(failures),
+               Member::bestFailureScores);
         if (!isVersusMode)
             assign(bestVersusScores, {}, Member::bestVersusScores);
     }
@@ -276,8 +272,6 @@ public:
         updateLists();
     }
 
-    QByteArray deckFolder{}; ///< What stands before a deck's name in the log.
-
 private:
     void header(const QString& text) { assign(headerText, text, Member::headerText); }
     void turn(bool& side, bool value) { assign(side, value, Member::cards); }
@@ -296,10 +290,8 @@ private:
     {
         if (!miss)
             return;
-        for (const std::size_t position : {miss->first, miss->second}) {
-            if (position < cards.size())
-                turn(cards[position].isFaceUp, false);
-        }
+        turn(cards[miss->first].isFaceUp, false);
+        turn(cards[miss->second].isFaceUp, false);
         clearAttempt();
         if (isVersusMode) {
             assign(currentPlayerIndex, (currentPlayerIndex + 1) % 2, Member::currentPlayerIndex);
