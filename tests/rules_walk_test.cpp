@@ -4,7 +4,6 @@
 //
 // PAIRCADE_STEPS sets how many (a simulated minute is 60,000), PAIRCADE_SEED where to
 // begin: it repeats a walk, since cards are chosen by what they pair with, not by place.
-#include "game/game_status.h"
 #include "highscores/highscore_file.h"
 #include "platform/user_folders.h"
 #include "settings/settings_keys.h"
@@ -36,9 +35,6 @@ public:
         m_platform.useResources(m_platform.home.path());
         for (const auto& [deck, size] : m_rules.deckSizes.asKeyValueRange())
             makeDeck(m_platform.home.path(), deck, size);
-        m_platform.notifications.observe(
-            GameStatusChangedNotification, m_platform.defaults.get(),
-            [this] { m_posts << int(m_platform.defaults->integer(SettingsKeys::GameIsActive)); });
         m_game = std::make_unique<Game>();
         QObject::connect(m_game.get(), &Game::changed, m_game.get(),
                          [this](Member member) { m_changes.push_back(member); });
@@ -236,17 +232,14 @@ private:
             return false;
         m_rules.cards = m_game->cards();
         const auto count = std::exchange(m_rules.dealtPairs, 0);
-        const auto newIds = m_knownIds.size() + qsizetype{3} * count;
         QMap<std::pair<QUuid, QString>, int> pairs;
         QSet<QString> pictures;
         for (const MemoryCard& card : m_rules.cards) {
             ++pairs[{card.pairID, card.image.name}];
             pictures << card.image.name;
-            m_knownIds << card.id << card.pairID;
             m_isDealtWell &= !card.image.image.isNull() && !card.isFaceUp && !card.isMatched;
         }
-        m_isDealtWell &= pictures.size() == count && pairs.values() == QList<int>(count, 2) &&
-                         m_knownIds.size() == newIds;
+        m_isDealtWell &= pictures.size() == count && pairs.values() == QList<int>(count, 2);
         return true;
     }
 
@@ -296,7 +289,8 @@ private:
         same("alerts", m_platform.alertLog.shown, m_rules.alerts);
         same("canRestoreHighscores", m_game->canRestoreHighscores(), !m_rules.removed.empty());
         same("the grid", m_game->cardColumns() * m_game->cardRows(), 2 * m_rules.pairsPerRound());
-        same("posts", m_posts, m_rules.posts);
+        same("GameIsActive", m_platform.defaults->integer(SettingsKeys::GameIsActive),
+             std::int64_t{m_rules.isGameActive});
         same("dealt well", m_isDealtWell, true);
         const auto sides = [](const MemoryCard& card) {
             return std::tuple(card.id, card.isFaceUp, card.isMatched);
@@ -326,9 +320,7 @@ private:
     Rules m_rules{};
     std::vector<Member> m_changes{};
     QMap<QString, std::int64_t> m_elsewhere{}; ///< Settings by another program, not yet read.
-    QList<int> m_posts{};                      ///< What the setting was at each.
     bool m_isDealtWell = true;
-    QSet<QUuid> m_knownIds{};
     QStringList m_trail{};
 };
 

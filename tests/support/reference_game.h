@@ -28,7 +28,6 @@ public:
     HighscoreEntries file{}, removed{};
     Miss delayed{}, due{}; ///< Waiting for its time, or in the main queue.
     QStringList queuedAlerts{}, alerts{};
-    QList<int> posts{};                ///< What the setting was at each.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
 
@@ -48,8 +47,6 @@ public:
     {
         member = value;
         assignments.push_back(name);
-        if (name == Member::isGameActive)
-            posts << int(isGameActive);
     }
 
     int pairsPerRound() const { return QList{6, 8, 10, 12, 14, 20}[layout() - 1]; }
