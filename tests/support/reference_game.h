@@ -227,28 +227,26 @@ public:
     void updateLists()
     {
         using Entry = const HighscoreEntry&;
-        const auto best = [this](auto key) {
+        const auto best = [this](const QString& modeOfList, auto key) {
             HighscoreEntries kept = file;
-            std::erase_if(kept, [this](Entry entry) {
+            std::erase_if(kept, [&](Entry entry) {
                 return entry.amountCards != layout() || entry.amountRounds != rounds() ||
-                       entry.gameMode != mode();
+                       entry.gameMode != mode() || modeOfList != mode();
             });
             std::ranges::stable_sort(kept, {}, key);
             kept.resize(std::min<std::size_t>(kept.size(), 10));
             return kept;
         };
+        const auto time = [](Entry e) { return std::pair(e.elapsedSeconds, e.failedAttempts); };
+        const auto failures = [](Entry e) { return std::pair(e.failedAttempts, e.elapsedSeconds); };
         const auto lead = [](Entry e) {
             return std::pair(-std::abs(*e.firstPlayerScore - *e.secondPlayerScore),
                              e.elapsedSeconds);
         };
-        const auto time = [](Entry e) { return std::pair(e.elapsedSeconds, e.failedAttempts); };
-        const auto failures = [](Entry e) { return std::pair(e.failedAttempts, e.elapsedSeconds); };
         if (isVersusMode)
-            assign(bestVersusScores, best(lead), Member::bestVersusScores);
-        assign(bestTimeScores, isVersusMode ? HighscoreEntries() : best(time),
-               Member::bestTimeScores);
-        assign(bestFailureScores, isVersusMode ? HighscoreEntries() : best(failures),
-               Member::bestFailureScores);
+            assign(bestVersusScores, best(u"versus"_s, lead), Member::bestVersusScores);
+        assign(bestTimeScores, best(u"solo"_s, time), Member::bestTimeScores);
+        assign(bestFailureScores, best(u"solo"_s, failures), Member::bestFailureScores);
         if (!isVersusMode)
             assign(bestVersusScores, {}, Member::bestVersusScores);
     }
