@@ -4,13 +4,11 @@
 //
 // PAIRCADE_STEPS sets how many (a simulated minute is 60,000), PAIRCADE_SEED where to
 // begin: it repeats a walk, since cards are chosen by what they pair with, not by place.
-#include "game/game_status.h"
 #include "highscores/highscore_file.h"
 #include "platform/user_folders.h"
 #include "settings/settings_keys.h"
 #include "stage/play.h"
 #include "stage/stage_platform.h"
-#include "support/output_of.h"
 #include "support/reference_game.h"
 
 #include <QRandomGenerator>
@@ -35,12 +33,8 @@ public:
         , m_random(seed)
     {
         m_platform.useResources(m_platform.home.path());
-        m_rules.deckFolder = QFile::encodeName(m_platform.home.path()) + "/Cards/";
         for (const auto& [deck, size] : m_rules.deckSizes.asKeyValueRange())
             makeDeck(m_platform.home.path(), deck, size);
-        m_platform.notifications.observe(
-            GameStatusChangedNotification, m_platform.defaults.get(),
-            [this] { m_posts << int(m_platform.defaults->integer(SettingsKeys::GameIsActive)); });
         m_game = std::make_unique<Game>();
         QObject::connect(m_game.get(), &Game::changed, m_game.get(),
                          [this](Member member) { m_changes.push_back(member); });
@@ -50,12 +44,8 @@ public:
     QString go(int steps)
     {
         QString fault;
-        const QByteArray log = outputOf([&] {
-            for (int i = 0; (fault = compare()).isEmpty() && i < steps; ++i)
-                step();
-        });
-        if (fault.isEmpty() && log != m_rules.log)
-            fault = u"the log: "_s + QString::fromUtf8(log);
+        for (int i = 0; (fault = compare()).isEmpty() && i < steps; ++i)
+            step();
         const QStringList last = m_trail.mid(m_trail.size() - 25);
         return fault.isEmpty() ? fault : fault + u"\nafter "_s + last.join(u", "_s);
     }
@@ -135,8 +125,6 @@ private:
     MemoryCard chosenCard()
     {
         const MemoryCards& cards = m_game->cards();
-        if (draw(12) == 0 && !m_oldCards.empty())
-            return m_oldCards[std::size_t(draw(int(m_oldCards.size())))];
         if (cards.empty() || draw(30) == 0)
             return MemoryCard{};
         const auto first = m_rules.firstSelectedIndex;
@@ -216,9 +204,7 @@ private:
     void set()
     {
         if (draw(3) == 0)
-            return setDeck(
-                oneOf({u" Cyberpunk"_s, u"Kids\n"_s, u"None"_s, u" "_s, u""_s, u"iPhoto"_s,
-                       u"iPhoto: Sea"_s, u"iPhoto: "_s, u"iPhoto:Sea"_s, u"iphoto: Sea"_s}));
+            return setDeck(oneOf({u" Cyberpunk"_s, u"Kids\n"_s, u"iPhoto"_s, u"iPhoto: Sea"_s}));
         // From below the range to beyond it.
         const auto [key, number] = draw(2) == 0
                                        ? std::pair(SettingsKeys::AmountCards, draw(9) - 1)
@@ -244,19 +230,16 @@ private:
     {
         if (m_rules.dealtPairs == 0)
             return false;
-        m_oldCards = std::exchange(m_rules.cards, m_game->cards());
+        m_rules.cards = m_game->cards();
         const auto count = std::exchange(m_rules.dealtPairs, 0);
-        const auto newIds = m_knownIds.size() + qsizetype{3} * count;
         QMap<std::pair<QUuid, QString>, int> pairs;
         QSet<QString> pictures;
         for (const MemoryCard& card : m_rules.cards) {
             ++pairs[{card.pairID, card.image.name}];
             pictures << card.image.name;
-            m_knownIds << card.id << card.pairID;
             m_isDealtWell &= !card.image.image.isNull() && !card.isFaceUp && !card.isMatched;
         }
-        m_isDealtWell &= pictures.size() == count && pairs.values() == QList<int>(count, 2) &&
-                         m_knownIds.size() == newIds;
+        m_isDealtWell &= pictures.size() == count && pairs.values() == QList<int>(count, 2);
         return true;
     }
 
@@ -306,7 +289,8 @@ private:
         same("alerts", m_platform.alertLog.shown, m_rules.alerts);
         same("canRestoreHighscores", m_game->canRestoreHighscores(), !m_rules.removed.empty());
         same("the grid", m_game->cardColumns() * m_game->cardRows(), 2 * m_rules.pairsPerRound());
-        same("posts", m_posts, m_rules.posts);
+        same("GameIsActive", m_platform.defaults->integer(SettingsKeys::GameIsActive),
+             std::int64_t{m_rules.isGameActive});
         same("dealt well", m_isDealtWell, true);
         const auto sides = [](const MemoryCard& card) {
             return std::tuple(card.id, card.isFaceUp, card.isMatched);
@@ -336,10 +320,7 @@ private:
     Rules m_rules{};
     std::vector<Member> m_changes{};
     QMap<QString, std::int64_t> m_elsewhere{}; ///< Settings by another program, not yet read.
-    QList<int> m_posts{};                      ///< What the setting was at each.
     bool m_isDealtWell = true;
-    MemoryCards m_oldCards{}; ///< Of the board before.
-    QSet<QUuid> m_knownIds{};
     QStringList m_trail{};
 };
 

@@ -63,7 +63,8 @@ void tryInput(const QByteArray& input)
     ReportTexts harmless = texts;
     QHash<QString, QString> meant; // by the harmless text in its place
     for (auto text : {&ReportTexts::title, &ReportTexts::subtitle, &ReportTexts::playerColumn,
-                      &ReportTexts::soloMode, &ReportTexts::versusMode}) {
+                      &ReportTexts::soloMode, &ReportTexts::versusMode, &ReportTexts::secondPlayer,
+                      &ReportTexts::empty}) {
         texts.*text = pieces.text();
         harmless.*text = QStringLiteral("Text %1").arg(meant.size());
         meant[harmless.*text] = texts.*text;
@@ -75,7 +76,7 @@ void tryInput(const QByteArray& input)
         entry.playerName = QStringLiteral("Player %1").arg(meant.size());
         QString shown = entry.playerName;
         if (entry.gameMode == versusMode) {
-            player += QStringLiteral(" vs ") + entry.secondPlayerName.value_or(QString());
+            player += QStringLiteral(" vs ") + entry.secondPlayerName.value_or(texts.secondPlayer);
             entry.secondPlayerName = QStringLiteral("Eve");
             shown += QStringLiteral(" vs Eve");
         }

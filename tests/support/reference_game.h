@@ -28,8 +28,6 @@ public:
     HighscoreEntries file{}, removed{};
     Miss delayed{}, due{}; ///< Waiting for its time, or in the main queue.
     QStringList queuedAlerts{}, alerts{};
-    QByteArray log{};
-    QList<int> posts{};                ///< What the setting was at each.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
 
@@ -49,8 +47,6 @@ public:
     {
         member = value;
         assignments.push_back(name);
-        if (name == Member::isGameActive)
-            posts << int(isGameActive);
     }
 
     int pairsPerRound() const { return QList{6, 8, 10, 12, 14, 20}[layout() - 1]; }
@@ -111,12 +107,7 @@ public:
         if (isAlbum || isLibrary)
             queuedAlerts << (localizedText("iphoto_access_denied") + u'|' +
                              localizedText("iphoto_access_denied_info") + u"|OK"_s);
-        else if (deck.isEmpty())
-            log += "CardDeck ist leer\n";
-        else if (!deckSizes.contains(deck))
-            log += "Ordnerinhalt konnte nicht gelesen werden: " + deckFolder + deck.toUtf8() + '\n';
-        const int pictures = isAlbum || isLibrary ? 0 : deckSizes.value(deck);
-        if (pictures < pairs) {
+        if (deckSizes.value(deck) < pairs) {
             const QString message =
                 isAlbum     ? localizedText("iphoto_not_enough_images_in_album", {pairs})
                 : isLibrary ? localizedText("iphoto_not_enough_images", {pairs})
@@ -276,8 +267,6 @@ public:
         updateLists();
     }
 
-    QByteArray deckFolder{}; ///< What stands before a deck's name in the log.
-
 private:
     void header(const QString& text) { assign(headerText, text, Member::headerText); }
     void turn(bool& side, bool value) { assign(side, value, Member::cards); }
@@ -296,10 +285,8 @@ private:
     {
         if (!miss)
             return;
-        for (const std::size_t position : {miss->first, miss->second}) {
-            if (position < cards.size())
-                turn(cards[position].isFaceUp, false);
-        }
+        turn(cards[miss->first].isFaceUp, false);
+        turn(cards[miss->second].isFaceUp, false);
         clearAttempt();
         if (isVersusMode) {
             assign(currentPlayerIndex, (currentPlayerIndex + 1) % 2, Member::currentPlayerIndex);
