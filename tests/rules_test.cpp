@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/rules/card_layout.h"
 #include "game/rules/shuffle.h"
 #include "support/rows.h"
 
@@ -9,6 +10,29 @@ class RulesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void boardAndWindowOfAmountCards_data()
+    {
+        using Numbers = QList<int>;
+        const Rows<qint64, Numbers, Numbers> row{"amountCards", "board", "window"};
+        row("wraps to 3 when narrowed too early", -4'294'967'293, {4, 3, 6}, {1100, 700});
+        row("1", 1, {4, 3, 6}, {1100, 700});
+        row("2", 2, {4, 4, 8}, {1150, 760});
+        row("3", 3, {5, 4, 10}, {1220, 760});
+        row("4", 4, {6, 4, 12}, {1320, 760});
+        row("5", 5, {7, 4, 14}, {1420, 760});
+        row("6", 6, {8, 5, 20}, {1580, 900});
+        row("7: the largest board in the first window", 7, {8, 5, 20}, {1100, 700});
+    }
+
+    void boardAndWindowOfAmountCards()
+    {
+        QFETCH(const qint64, amountCards);
+        const CardLayout& board = cardLayout(amountCards);
+        const CardLayout& window = windowLayout(amountCards);
+        QTEST((QList{board.columns, board.rows, board.pairs()}), "board");
+        QTEST((QList{window.windowWidth, window.windowHeight}), "window");
+    }
+
     // The rest that is rejected is 2^64 mod bound: 1 for 3, 4 for 6, 2^63 - 1
     // for 2^63 + 1.
     void drawsByMultiplyAndReject_data()

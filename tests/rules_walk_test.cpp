@@ -9,6 +9,7 @@
 #include "settings/settings_keys.h"
 #include "stage/play.h"
 #include "stage/stage_platform.h"
+#include "support/output_of.h"
 #include "support/reference_game.h"
 
 #include <QRandomGenerator>
@@ -33,6 +34,7 @@ public:
         , m_random(seed)
     {
         m_platform.useResources(m_platform.home.path());
+        m_rules.deckFolder = QFile::encodeName(m_platform.home.path()) + "/Cards/";
         for (const auto& [deck, size] : m_rules.deckSizes.asKeyValueRange())
             makeDeck(m_platform.home.path(), deck, size);
         m_game = std::make_unique<Game>();
@@ -44,8 +46,12 @@ public:
     QString go(int steps)
     {
         QString fault;
-        for (int i = 0; (fault = compare()).isEmpty() && i < steps; ++i)
-            step();
+        const QByteArray log = outputOf([&] {
+            for (int i = 0; (fault = compare()).isEmpty() && i < steps; ++i)
+                step();
+        });
+        if (fault.isEmpty() && log != m_rules.log)
+            fault = u"the log: "_s + QString::fromUtf8(log);
         const QStringList last = m_trail.mid(m_trail.size() - 25);
         return fault.isEmpty() ? fault : fault + u"\nafter "_s + last.join(u", "_s);
     }
@@ -204,7 +210,9 @@ private:
     void set()
     {
         if (draw(3) == 0)
-            return setDeck(oneOf({u" Cyberpunk"_s, u"Kids\n"_s, u"iPhoto"_s, u"iPhoto: Sea"_s}));
+            return setDeck(
+                oneOf({u" Cyberpunk"_s, u"Kids\n"_s, u"None"_s, u" "_s, u""_s, u"iPhoto"_s,
+                       u"iPhoto: Sea"_s, u"iPhoto: "_s, u"iPhoto:Sea"_s, u"iphoto: Sea"_s}));
         // From below the range to beyond it.
         const auto [key, number] = draw(2) == 0
                                        ? std::pair(SettingsKeys::AmountCards, draw(9) - 1)

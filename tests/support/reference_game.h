@@ -28,6 +28,7 @@ public:
     HighscoreEntries file{}, removed{};
     Miss delayed{}, due{}; ///< Waiting for its time, or in the main queue.
     QStringList queuedAlerts{}, alerts{};
+    QByteArray log{}, deckFolder{};    ///< The folder stands before a deck's name in the log.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
 
@@ -107,6 +108,10 @@ public:
         if (isAlbum || isLibrary)
             queuedAlerts << (localizedText("iphoto_access_denied") + u'|' +
                              localizedText("iphoto_access_denied_info") + u"|OK"_s);
+        else if (deck.isEmpty())
+            log += "CardDeck ist leer\n";
+        else if (!deckSizes.contains(deck))
+            log += "Ordnerinhalt konnte nicht gelesen werden: " + deckFolder + deck.toUtf8() + '\n';
         if (deckSizes.value(deck) < pairs) {
             const QString message =
                 isAlbum     ? localizedText("iphoto_not_enough_images_in_album", {pairs})
