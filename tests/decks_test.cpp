@@ -155,7 +155,8 @@ private Q_SLOTS:
     void sourcesAreShapesAlone()
     {
         static const QRegularExpression foreign(
-            u"<(text|image|style|script|foreignObject|[?!](?!--))|href=\"(?!#)|url\\((?!#)"_s);
+            u"<(text|image|style|script|foreignObject|[?!](?!--))|href=\"(?!#)|url\\((?!#)"
+            "|\\bon\\w+="_s);
         int drawings = 0;
         const QString decks = QStringLiteral(PAIRCADE_SOURCE_DIR "/resources/Cards");
         QDirIterator drawing(decks, {u"*.svg"_s}, QDir::Files, QDirIterator::Subdirectories);

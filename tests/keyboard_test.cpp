@@ -150,24 +150,6 @@ private Q_SLOTS:
         QVERIFY(!AccessQuestion(QString()).askForPhotoAccess());
     }
 
-    void aKeyHeldOnAnAlertActsOnNothing()
-    {
-        GameWindow window;
-        window.type(u"Ann"_s);
-        window.game().showLocalizedAlert("enter_name");
-        bool isAlerted = false;
-        whenAlerted([&isAlerted](QMessageBox& alert) {
-            isAlerted = true;
-            GameWindow::repeatOn(alert, Qt::Key_Return, u"\r"_s);
-            QVERIFY(alert.isVisible());
-        });
-        QTRY_VERIFY(isAlerted && QApplication::activeModalWidget() == nullptr);
-        window.repeat(Qt::Key_Return, u"\r"_s);
-        QVERIFY(!window.game().isGameActive());
-        window.press(Qt::Key_Return);
-        QVERIFY(window.game().isGameActive());
-    }
-
     void theFocusIsSeenOnEverySurface()
     {
         const QPalette before = QApplication::palette();
