@@ -98,7 +98,7 @@ private Q_SLOTS:
             if (deck == photoLibraryDeck())
                 continue;
             m_decks[deck] = loadBundleDeck(ApplicationBundle::ofRunningProgram(), deck);
-            QCOMPARE(m_decks[deck].size(), std::size_t{24});
+            QVERIFY(m_decks[deck].size() >= 24);
             for (const CardPicture& picture : m_decks[deck]) {
                 QCOMPARE(picture.image.width(), picture.image.height());
                 QVERIFY2(!picture.image.hasAlphaChannel(), qPrintable(picture.name));
@@ -165,7 +165,7 @@ private Q_SLOTS:
             const auto found = foreign.match(QString::fromUtf8(contentsOf(path)));
             QVERIFY2(!found.hasMatch(), qPrintable(path + u": "_s + found.captured()));
         }
-        QCOMPARE(drawings, 96);
+        QVERIFY(drawings >= 96);
     }
 
     void aDeckIsItsPicturesInOrderOfTheirNames()

@@ -167,6 +167,7 @@ class ReaderTest(unittest.TestCase):
     def start(self, **settings):
         self.game = Game(**settings)
         self.addCleanup(self.game.close)
+        self.addCleanup(self.expect_silence)
         self.misses = 0
         return self.game
 
@@ -253,8 +254,8 @@ class ReaderTest(unittest.TestCase):
         game.expect_stored("PlaySounds", 1)
         self.assertTrue(has(box, pyatspi.STATE_CHECKED))
 
-    def tearDown(self):
-        # Nothing was said twice, and nothing comes after.
+    def expect_silence(self):
+        """Nothing was said twice, and nothing comes after."""
         begin = time.monotonic()
         self.game.until(lambda: time.monotonic() - begin > 0.5, "silence")
         self.assertEqual(self.game.said[self.game.heard:], [])

@@ -17,7 +17,8 @@ struct CardLayout {
     [[nodiscard]] constexpr int pairs() const noexcept { return cards() / 2; }
 };
 
-/// Every layout there is, smallest first. Add or change a layout here only.
+/// Every layout there is, smallest first. No other code has a table of them; the name of
+/// each is a text.
 inline constexpr std::array cardLayouts = {
     CardLayout{4, 3, 1100, 700}, CardLayout{4, 4, 1150, 760}, CardLayout{5, 4, 1220, 760},
     CardLayout{6, 4, 1320, 760}, CardLayout{7, 4, 1420, 760}, CardLayout{8, 5, 1580, 900},
