@@ -77,7 +77,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Das Fotoalbum wurde nicht gefunden</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Sein Ordner wurde möglicherweise umbenannt, verschoben oder gelöscht. Stelle den Ordner wieder her oder wähle in den Einstellungen ein anderes Deck.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Es wurden keine Fotos gefunden</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
     <source></source><translation>Der Ordner, aus dem dieses Deck seine Fotos nimmt, enthält keine. Lege dort Fotos ab oder wähle in den Einstellungen ein anderes Deck.</translation></message>

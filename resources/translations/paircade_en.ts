@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>The photo album was not found</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Its folder may have been renamed, moved or deleted. Restore the folder or choose another deck in the preferences.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>No photos were found</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>The folder this deck takes its photos from is empty. Add some photos to it or choose another deck in the preferences.</translation></message>
+    <source></source><translation>The folder this deck takes its photos from holds none. Add some photos to it or choose another deck in the preferences.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>The highscore page could not be saved</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>No se encuentra el álbum de fotos</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Puede que su carpeta se haya renombrado, movido o eliminado. Restaura la carpeta o elige otra baraja en las preferencias.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>No se han encontrado fotos</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>La carpeta de la que esta baraja toma las fotos está vacía. Añade fotos o elige otra baraja en las preferencias.</translation></message>
+    <source></source><translation>La carpeta de la que esta baraja toma las fotos no contiene ninguna. Añade fotos o elige otra baraja en las preferencias.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>No se pudo guardar la página de puntuaciones</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>L’album photo est introuvable</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Son dossier a peut-être été renommé, déplacé ou supprimé. Rétablissez le dossier ou choisissez un autre jeu de cartes dans les préférences.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Aucune photo trouvée</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>Le dossier d’où ce jeu de cartes tire ses photos est vide. Ajoutez-y des photos ou choisissez un autre jeu de cartes dans les préférences.</translation></message>
+    <source></source><translation>Le dossier d’où ce jeu de cartes tire ses photos n’en contient aucune. Ajoutez-y des photos ou choisissez un autre jeu de cartes dans les préférences.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Impossible d’enregistrer la page des scores</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Album fotografico non trovato</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>La sua cartella potrebbe essere stata rinominata, spostata o eliminata. Ripristina la cartella o scegli un altro mazzo nelle preferenze.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Nessuna foto trovata</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>La cartella da cui questo mazzo prende le foto è vuota. Aggiungi delle foto o scegli un altro mazzo nelle preferenze.</translation></message>
+    <source></source><translation>La cartella da cui questo mazzo prende le foto non ne contiene. Aggiungi delle foto o scegli un altro mazzo nelle preferenze.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Impossibile salvare la pagina dei record</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

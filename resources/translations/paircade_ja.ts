@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>アルバムが見つかりません</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>フォルダーの名前が変わったか、移動または削除された可能性があります。フォルダーを元に戻すか、設定で別のデッキを選んでください。</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>写真が見つかりません</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>このデッキの写真フォルダーは空です。写真を追加するか、設定で別のデッキを選んでください。</translation></message>
+    <source></source><translation>このデッキの写真フォルダーには写真がありません。写真を追加するか、設定で別のデッキを選んでください。</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>記録ページを保存できませんでした</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Het fotoalbum is niet gevonden</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Misschien is de map hernoemd, verplaatst of verwijderd. Zet de map terug of kies een ander kaartspel bij de voorkeuren.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Geen foto’s gevonden</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>De map waaruit dit kaartspel zijn foto’s haalt, is leeg. Zet er foto’s in of kies een ander kaartspel bij de voorkeuren.</translation></message>
+    <source></source><translation>De map waaruit dit kaartspel zijn foto’s haalt, bevat er geen. Zet er foto’s in of kies een ander kaartspel bij de voorkeuren.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>De pagina met scores kon niet worden opgeslagen</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Nie znaleziono albumu ze zdjęciami</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Jego folder mógł zmienić nazwę, zostać przeniesiony lub usunięty. Przywróć folder albo wybierz w preferencjach inną talię.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Nie znaleziono zdjęć</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>Folder, z którego ta talia bierze zdjęcia, jest pusty. Dodaj do niego zdjęcia albo wybierz w preferencjach inną talię.</translation></message>
+    <source></source><translation>W folderze, z którego ta talia bierze zdjęcia, nie ma żadnych. Dodaj do niego zdjęcia albo wybierz w preferencjach inną talię.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Nie udało się zapisać strony z wynikami</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>O álbum de fotos não foi encontrado</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>A pasta dele pode ter sido renomeada, movida ou excluída. Restaure a pasta ou escolha outro baralho nas preferências.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Nenhuma foto encontrada</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>A pasta de onde este baralho tira as fotos está vazia. Adicione fotos a ela ou escolha outro baralho nas preferências.</translation></message>
+    <source></source><translation>A pasta de onde este baralho tira as fotos não contém nenhuma. Adicione fotos a ela ou escolha outro baralho nas preferências.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Não foi possível salvar a página de recordes</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Fotoalbumet hittades inte</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Mappen kan ha bytt namn, flyttats eller tagits bort. Återställ mappen eller välj en annan kortlek i inställningarna.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Inga foton hittades</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>Mappen som kortleken hämtar sina foton från är tom. Lägg in foton där eller välj en annan kortlek i inställningarna.</translation></message>
+    <source></source><translation>Mappen som kortleken hämtar sina foton från innehåller inga. Lägg in foton där eller välj en annan kortlek i inställningarna.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Sidan med topplistan kunde inte sparas</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

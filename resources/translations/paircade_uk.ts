@@ -77,10 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Фотоальбом не знайдено</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Можливо, його теку перейменовано, переміщено або вилучено. Відновіть теку або виберіть у налаштуваннях іншу колоду.</translation></message>
-  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album is empty.</extracomment>
+  <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Фотографій не знайдено</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>
-    <source></source><translation>Тека, з якої ця колода бере фотографії, порожня. Додайте до неї фотографії або виберіть у налаштуваннях іншу колоду.</translation></message>
+    <source></source><translation>У теці, з якої ця колода бере фотографії, їх немає. Додайте до неї фотографії або виберіть у налаштуваннях іншу колоду.</translation></message>
   <message id="highscores_export_error_title"><extracomment>Message, first line: the highscore page could not be written. The system's own reason follows below.</extracomment>
     <source></source><translation>Не вдалося зберегти сторінку рекордів</translation></message>
   <message id="already_running"><extracomment>Shown and printed at a second start when the running game does not answer.</extracomment>

@@ -44,9 +44,12 @@ void Preferences::updatePhotosRow()
         state = localizedText("preferences_photos_not_asked");
     else if (status == PhotoAuthorization::authorized)
         state = localizedText("preferences_photos_all");
-    else if (status == PhotoAuthorization::limited)
-        state = localizedText("preferences_photos_only", {photos.limitedTo()});
-    m_photosState->setText(state);
+    QStringList folder;
+    if (status == PhotoAuthorization::limited) {
+        folder << photos.limitedTo();
+        state = localizedText("preferences_photos_only", {folder.constFirst()});
+    }
+    m_photosState->setText(state, folder);
 
     const bool isRestricted = status == PhotoAuthorization::restricted;
     const bool wasNeverAsked = isRestricted || status == PhotoAuthorization::notDetermined;
