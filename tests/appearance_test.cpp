@@ -104,7 +104,7 @@ private Q_SLOTS:
         const Appearance followed;
         const QPalette before = QApplication::palette();
         QTest::qWait(150);
-        QCOMPARE(shown(), wishes);
+        QTRY_COMPARE(shown(), wishes);
         for (const QVariant& now : {otherwise, value}) {
             portal.change(group, key, now);
             const QString expected = now == value ? wishes : QString();

@@ -89,6 +89,7 @@ private Q_SLOTS:
         for (const bool isVersus : {false, true}) {
             if (isVersus)
                 m_window->click(reach(child("versusCheckbox")));
+            QCOMPARE(m_window->text(u"headerText"_s), QString()); // no result of the other mode
             typeNames(isVersus, name);
             reachAll();
             m_window->click(reach(startButton(isVersus)));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is written, and what cannot be read. What a file may hold is tested in tests/fuzz.
 #include "highscores/highscore_file.h"
+#include "highscores/recording.h"
 #include "stage/files.h"
 
 #include <QDir>
@@ -54,6 +55,7 @@ private Q_SLOTS:
         QVERIFY(writeHighscores(highscoreFile(), {entry}));
         QCOMPARE(contentsOf(highscoreFile()), expected);
         QCOMPARE(encodeHighscores(*readHighscores(highscoreFile()).entries), expected);
+        QVERIFY(soloEntry({}, {}).id != soloEntry({}, {}).id);
         QCOMPARE(encodeHighscores({{}}).count(':'), 7);
         // A file that is written anew leaves nothing beside it.
         QVERIFY(writeHighscores(highscoreFile(), {}));

@@ -86,6 +86,14 @@ private Q_SLOTS:
         window.press(Qt::Key_Return);
         pass(0);
         QVERIFY(window.game().isGameActive() && !isShown<Celebration>(window));
+        // A key ends the leaving board, the celebration ends by itself.
+        winRound(window);
+        winRound(window);
+        window.type(u"a"_s);
+        pass(0);
+        QVERIFY(!isShown<LeavingBoard>(window) && isShown<Celebration>(window));
+        pass(1.2);
+        QVERIFY(!isShown<Celebration>(window));
     }
 
 private:

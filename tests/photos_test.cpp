@@ -216,7 +216,6 @@ private Q_SLOTS:
         row("case matters", u"iPhoto: rome"_s, {}, "iphoto_album_not_found", 0);
         row("an empty album", u"iPhoto: Empty"_s, {}, "iphoto_no_images_found", 0);
         row("a part", u"iPhoto"_s, u"good"_s, "", 6);
-        row("a part that is gone", u"iPhoto"_s, u"gone"_s, "iphoto_no_images_found", 0);
     }
 
     void roundsFromPhotosAndTheirAlerts()

@@ -223,6 +223,10 @@ private Q_SLOTS:
         QVERIFY(rounds.isEnabled() && window.pane->cardsStepper()->isEnabled());
         QVERIFY(rounds.toolTip().isEmpty());
         QCOMPARE(rounds.accessibleDescription(), u"2 rounds per game"_s);
+        // What is still held when the pane goes starts nothing.
+        window.close();
+        window.repeat(Qt::Key_Return, u"\r"_s);
+        QVERIFY(!window.game().isGameActive());
     }
 
     void thePaneIsAWindowOfTheGame()

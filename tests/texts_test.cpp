@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDirIterator>
 #include <QMap>
+#include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
 #include <map>
@@ -64,9 +65,18 @@ private Q_SLOTS:
              deck.hasNext();)
             needed << u"card_"_s + deck.nextFileInfo().baseName();
         needed << english.keys();
+        // Ids stand in the code as plain literals, other names with a prefix.
+        const QRegularExpression plain(u"(?<!Literal\\()(?<!String\\()\"([a-z]+_[a-z0-9_]+)\""_s);
+        const QString sources = QStringLiteral(PAIRCADE_SOURCE_DIR "/src");
+        for (QDirIterator code(sources, {u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+             code.hasNext();) {
+            for (const auto& id : plain.globalMatch(QString::fromUtf8(contentsOf(code.next()))))
+                needed << id.captured(1);
+        }
         for (const auto& [language, texts] : m_texts) {
             for (const QString& id : needed)
-                QVERIFY2(texts.contains(id), qPrintable(language + u": "_s + id));
+                QVERIFY2(texts.contains(id) || texts.contains(u"card_"_s + id),
+                         qPrintable(language + u": "_s + id));
             for (auto text = texts.begin(); text != texts.end(); ++text) {
                 for (const QString& form : *text) {
                     QVERIFY2(!form.trimmed().isEmpty() && !form.contains(u'&') &&

@@ -20,9 +20,11 @@ private Q_SLOTS:
         QTRY_COMPARE(window.window().size(), window.screen().size());
         const auto& item = window.child<QAction>(u"menu_full_screen"_s);
         QVERIFY(item.isChecked());
-
+        window.platform.defaults->setInteger(SettingsKeys::AmountCards, 6);
+        window.delegate.updateWindowSizeForCurrentLayout();
         window.press(Qt::Key_F11);
-        QTRY_COMPARE(window.delegate.contentView()->size(), QSize(1100, 700));
+        QTRY_COMPARE(window.delegate.contentView()->size(), QSize(1580, 900));
+        QCOMPARE(window.delegate.contentView()->calculateCardSize({700, 500}), 70.0);
         QVERIFY(!item.isChecked());
         QTRY_COMPARE(window.window().minimumSize(), window.window().maximumSize());
     }
