@@ -16,15 +16,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The numbers of the places in `text`, each once, in order.
-QString placesIn(const QString& text)
+/// Returns what `pattern` finds in `text`, in order.
+QStringList allOf(const QString& pattern, const QString& text)
 {
-    QString places;
-    for (const QChar digit : u"0123456789"_s) {
-        if (text.contains(u'%' + digit))
-            places += digit;
-    }
-    return places;
+    QStringList all;
+    for (const auto& match : QRegularExpression(pattern).globalMatch(text))
+        all << match.captured();
+    return all;
 }
 
 } // namespace
@@ -81,7 +79,7 @@ private Q_SLOTS:
                 for (const QString& form : *text) {
                     QVERIFY2(!form.trimmed().isEmpty() && !form.contains(u'&') &&
                                  english.contains(text.key()) &&
-                                 placesIn(form) == placesIn(english[text.key()][0]),
+                                 allOf(u"%\\d"_s, form) == allOf(u"%\\d"_s, english[text.key()][0]),
                              qPrintable(language + u": "_s + text.key()));
                 }
             }

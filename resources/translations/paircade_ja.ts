@@ -50,7 +50,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <message id="player_found_pair"><extracomment>Two players. %1: name of the player who found a pair. May be the last pair of the game.</extracomment>
     <source></source><translation>%1さん、ペア発見！</translation></message>
   <message id="player_starts_round"><extracomment>Two players, a further round begins. %1: name of the player to move; %2: number of the round, from 2.</extracomment>
-    <source></source><translation>ラウンド%2は%1さんから</translation></message>
+    <source></source><translation>%1さんからラウンド%2開始</translation></message>
 
   <!-- Results, shown large after a game -->
   <message id="singleplayer_result"><extracomment>One player. %1: name; %2: time as minutes and seconds; %3: number of failed attempts, from 0.</extracomment>
