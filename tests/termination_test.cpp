@@ -77,7 +77,7 @@ int leaveBy(const QStringList& arguments)
     game.startNewGame();
 
     int posts = 0;
-    platform.notifications.observe(GameStatusChangedNotification, &delegate, [&] { ++posts; });
+    platform.notifications.observe(gameStatusChanged, &delegate, [&] { ++posts; });
     bringUp(under, delegate, platform);
     QTimer::singleShot(200, &delegate, [&] {
         posts = 0;

@@ -10,5 +10,5 @@
 void publishGameStatus(bool isRunning)
 {
     platform().defaults.setInteger(SettingsKeys::GameIsActive, isRunning ? 1 : 0);
-    platform().notifications.post(GameStatusChangedNotification);
+    platform().notifications.post(gameStatusChanged);
 }

@@ -6,8 +6,7 @@
 
 /// Posted right after every write of the setting `GameIsActive`, except the one
 /// when the program ends. Carries nothing: observers read the setting.
-inline const QString GameStatusChangedNotification =
-    QStringLiteral("GameStatusChangedNotification");
+inline const QString gameStatusChanged = QStringLiteral("GameStatusChangedNotification");
 
 /// Writes whether a game runs under `GameIsActive` and posts the notification.
 void publishGameStatus(bool isRunning);

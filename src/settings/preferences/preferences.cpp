@@ -119,7 +119,7 @@ void Preferences::viewDidLoad()
     showStoredSettings();
     updateRoundsLabel(roundsStepper()->value());
     updateCardsLabel(cardsStepper()->value());
-    platform().notifications.observe(GameStatusChangedNotification, this,
+    platform().notifications.observe(gameStatusChanged, this,
                                      [this] { handleGameStatusChanged(); });
     rebuildCardDeckMenu();
     updatePaircadeAlbumState();
