@@ -31,9 +31,14 @@ QSize sizeForCurrentLayout()
 AppDelegate::AppDelegate() = default;
 AppDelegate::~AppDelegate() = default;
 
+void AppDelegate::createDefaultSettings()
+{
+    ::createDefaultSettings(platform().defaults);
+}
+
 void AppDelegate::applicationDidFinishLaunching()
 {
-    createDefaultSettings(platform().defaults);
+    createDefaultSettings();
     m_contentView = new ContentView(std::make_unique<MemoryGame>());
 
     m_focusRing = std::make_unique<FocusRing>();

@@ -30,6 +30,9 @@ public:
     /// screen if the settings say so. Called once, at launch.
     void applicationDidFinishLaunching();
 
+    /// Stores the default of every setting that is missing; the first step of the launch.
+    static void createDefaultSettings();
+
     /// Gives the window the size of the current layout and centres it; in full
     /// screen only the board follows. Without a window nothing happens.
     void updateWindowSizeForCurrentLayout() override;

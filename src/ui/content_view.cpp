@@ -18,14 +18,12 @@
 #include "ui/leaving_board.h"
 #include "ui/left_sidebar.h"
 #include "ui/plain_area.h"
-#include "ui/screen_metrics.h"
 #include "ui/start_forms.h"
 
 #include <QCoreApplication>
 #include <QPainter>
 #include <QScrollArea>
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 #include <utility>
 
@@ -107,7 +105,7 @@ QSize ContentView::minimumSizeHint() const
 
 QRect ContentView::mainArea() const
 {
-    using namespace ScreenMetrics;
+    using ScreenMetrics::dividerX;
     return {dividerX, headerHeight, width() - dividerX, height() - headerHeight};
 }
 
@@ -252,29 +250,30 @@ void ContentView::inviteAgain()
     }
 }
 
+QWidget* ContentView::mainContent() const
+{
+    if (m_game->isGameActive())
+        return m_boardArea;
+    if (m_game->isVersusMode())
+        return m_versusStartView;
+    return m_singlePlayerStartView;
+}
+
 void ContentView::showMainContent()
 {
-    const bool isBoard = m_game->isGameActive();
-    const bool isVersusForm = !isBoard && m_game->isVersusMode();
-    const std::array<std::pair<QWidget*, bool>, 3> contents{
-        {{m_boardArea, isBoard},
-         {m_versusStartView, isVersusForm},
-         {m_singlePlayerStartView, !isBoard && !isVersusForm}}};
-
     // What comes has the focus before what goes is hidden: else it would pass
     // to the next control in line, which may be the reset button.
-    for (const auto& [content, isShown] : contents) {
-        if (isShown)
-            content->show();
-    }
+    QWidget* const content = mainContent();
+    content->show();
     if (m_needsFocus && isVisible()) {
         m_needsFocus = false;
         giveFocus();
         m_ignoresRepeats = true;
     }
-    for (const auto& [content, isShown] : contents) {
-        if (!isShown)
-            content->hide();
+    for (QWidget* const other :
+         std::initializer_list<QWidget*>{m_boardArea, m_versusStartView, m_singlePlayerStartView}) {
+        if (other != content)
+            other->hide();
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/memory_game.h"
+#include "ui/screen_metrics.h"
 
 #include <QWidget>
 #include <memory>
@@ -28,6 +29,11 @@ class ContentView : public QWidget {
     Q_OBJECT
 
 public:
+    static constexpr int spacing = ScreenMetrics::spacing;
+    static constexpr int headerHeight = ScreenMetrics::headerHeight;
+    static constexpr int footerHeight = ScreenMetrics::footerHeight;
+    static constexpr int leftPanelWidth = ScreenMetrics::leftPanelWidth;
+
     explicit ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent = nullptr);
     ~ContentView() override;
 
@@ -58,6 +64,8 @@ private:
     void refreshIfScheduled();
     void refresh();
     void arrangeBoard();
+    /// Returns what the main area shows: the board, or the form of the mode.
+    [[nodiscard]] QWidget* mainContent() const;
     void showMainContent();
     void showLeavingBoard();
     void celebrate();

@@ -42,19 +42,26 @@ int HighscoreSection::paddingAbove(const ElidedLabel* row) const
 
 void HighscoreSection::refresh()
 {
-    const bool isVersus = m_game.isVersusMode();
-    fill(m_times, !isVersus, m_game.bestTimeScores(), [](std::size_t rank, const auto& entry) {
+    soloHighscoresSection(!m_game.isVersusMode());
+    versusHighscoresSection(m_game.isVersusMode());
+}
+
+void HighscoreSection::soloHighscoresSection(bool isShown)
+{
+    fill(m_times, isShown, m_game.bestTimeScores(), [](std::size_t rank, const auto& entry) {
         return Line{
             localizedText("%1. %2 – %3", {rank, entry.playerName, clockText(entry.elapsedSeconds)}),
             {entry.playerName}};
     });
-    fill(m_failures, !isVersus, m_game.bestFailureScores(),
-         [](std::size_t rank, const auto& entry) {
-             return Line{
-                 localizedText("%1. %2 – %3", {rank, entry.playerName, entry.failedAttempts}),
-                 {entry.playerName}};
-         });
-    fill(m_versus, isVersus, m_game.bestVersusScores(), [](std::size_t rank, const auto& entry) {
+    fill(m_failures, isShown, m_game.bestFailureScores(), [](std::size_t rank, const auto& entry) {
+        return Line{localizedText("%1. %2 – %3", {rank, entry.playerName, entry.failedAttempts}),
+                    {entry.playerName}};
+    });
+}
+
+void HighscoreSection::versusHighscoresSection(bool isShown)
+{
+    fill(m_versus, isShown, m_game.bestVersusScores(), [](std::size_t rank, const auto& entry) {
         const QString second = entry.secondPlayerName.value_or(localizedText("player_two"));
         return Line{localizedText("%1. %2 vs %3 – %4:%5", {rank, entry.playerName, second,
                                                            entry.firstPlayerScore.value_or(0),

@@ -43,6 +43,9 @@ private:
     };
     using LineOf = std::function<Line(std::size_t rank, const HighscoreEntry& entry)>;
 
+    // Each fills its headings and lines, or hides them.
+    void soloHighscoresSection(bool isShown);
+    void versusHighscoresSection(bool isShown);
     [[nodiscard]] List makeList(const char* headingKey, const char* name, QWidget* column);
     static void fill(const List& list, bool isShown, const HighscoreEntries& entries,
                      const LineOf& lineOf);

@@ -58,7 +58,7 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
           addLine("timeLine", ScreenMetrics::leftPanelWidth, monospacedFont(14, QFont::DemiBold)))
     , m_failuresLine(addLine("failuresLine", ScreenMetrics::leftPanelWidth,
                              monospacedFont(14, QFont::DemiBold)))
-    , m_highscores(game, m_highscoreColumn)
+    , m_highscoreSection(game, m_highscoreColumn)
 {
     setObjectName(QStringLiteral("leftSidebar"));
     m_pairingLine->setTightest(tightestPairing);
@@ -68,11 +68,10 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     makePlain(*m_highscoreArea, m_highscoreColumn);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &LeftSidebar::scrolled);
 
-    for (ElidedLabel* const row : m_highscores.rows())
-        m_rows.push_back({.widget = row,
-                          .width = ScreenMetrics::leftPanelWidth,
-                          .above = m_highscores.paddingAbove(row),
-                          .isHighscore = true});
+    for (ElidedLabel* const row : m_highscoreSection.rows())
+        m_highscoreRows.push_back({.widget = row,
+                                   .width = ScreenMetrics::leftPanelWidth,
+                                   .above = m_highscoreSection.paddingAbove(row)});
 
     m_resetButton = addButton("reset_highscores", "resetButton", 10);
     connect(m_resetButton, &QPushButton::clicked, &m_game, &MemoryGame::resetHighscores);
@@ -90,8 +89,9 @@ LeftSidebar::LeftSidebar(MemoryGame& game, QWidget* parent)
     });
 
     // A screen reader reads in this order.
-    for (const Row& row : m_rows)
-        (row.isHighscore ? m_highscoreArea : row.widget)->raise();
+    m_highscoreArea->raise();
+    for (const Row& row : m_sidebarActions)
+        row.widget->raise();
     alignButtons();
     makePlain(*this, m_column);
     followAppearance();
@@ -103,7 +103,7 @@ void LeftSidebar::addVersusCheckbox()
     m_versusCheckbox->setObjectName(QStringLiteral("versusCheckbox"));
     m_versusCheckbox->setFont(systemFont(13, QFont::DemiBold));
     // No wider than its text, or the ring around it would not close within the column.
-    m_rows.push_back(
+    m_sidebarActions.push_back(
         {.widget = m_versusCheckbox,
          .width = std::min(m_versusCheckbox->sizeHint().width(), ScreenMetrics::leftPanelWidth),
          .below = 8});
@@ -123,11 +123,11 @@ void LeftSidebar::addVersusCheckbox()
 void LeftSidebar::alignButtons()
 {
     int widest = buttonWidth;
-    for (const Row& row : m_rows) {
+    for (const Row& row : m_sidebarActions) {
         if (qobject_cast<QPushButton*>(row.widget) != nullptr)
             widest = std::max(widest, row.widget->sizeHint().width() + 2 * besideButtonText);
     }
-    for (Row& row : m_rows) {
+    for (Row& row : m_sidebarActions) {
         if (qobject_cast<QPushButton*>(row.widget) != nullptr)
             row.width = std::min(widest, ScreenMetrics::leftPanelWidth);
     }
@@ -137,7 +137,7 @@ ElidedLabel* LeftSidebar::addLine(const char* name, int width, const QFont& font
 {
     auto* const line = new ElidedLabel(QString::fromLatin1(name), m_column);
     line->setFont(font);
-    m_rows.push_back({.widget = line, .width = width});
+    m_sidebarHeader.push_back({.widget = line, .width = width});
     return line;
 }
 
@@ -146,7 +146,7 @@ QPushButton* LeftSidebar::addButton(const char* key, const char* name, int above
     auto* const button = new QPushButton(controlText(key), m_column);
     button->setObjectName(QString::fromLatin1(name));
     button->setFont(systemFont(12, QFont::DemiBold));
-    m_rows.push_back({.widget = button, .width = buttonWidth, .above = above});
+    m_sidebarActions.push_back({.widget = button, .width = buttonWidth, .above = above});
     return button;
 }
 
@@ -157,12 +157,17 @@ int LeftSidebar::scrolledBy() const
 
 void LeftSidebar::refresh()
 {
-    refreshPlayerLines();
-    m_highscores.refresh();
+    refreshSidebarHeader();
+    m_highscoreSection.refresh();
+    refreshSidebarActions();
+    arrange();
+}
+
+void LeftSidebar::refreshSidebarActions()
+{
     showMode();
     m_versusCheckbox->setEnabled(!m_game.isGameActive());
     m_endButton->setVisible(m_game.isGameActive());
-    arrange();
 }
 
 void LeftSidebar::showMode()
@@ -171,7 +176,7 @@ void LeftSidebar::showMode()
     m_versusCheckbox->setChecked(m_game.isVersusMode());
 }
 
-void LeftSidebar::refreshPlayerLines()
+void LeftSidebar::refreshSidebarHeader()
 {
     const bool isVersus = m_game.isVersusMode();
     const auto [first, second] = m_game.playerNames();
@@ -204,24 +209,30 @@ void LeftSidebar::followAppearance()
                   isContrastHigh ? palette().color(QPalette::ButtonText) : Colours::red);
     setTextColour(m_pairingLine, QPalette::WindowText, blue);
     setTextColour(m_nameLine, QPalette::WindowText, blue);
-    for (ElidedLabel* const row : m_highscores.rows()) {
-        if (m_highscores.paddingAbove(row) > 0)
+    for (ElidedLabel* const row : m_highscoreSection.rows()) {
+        if (m_highscoreSection.paddingAbove(row) > 0)
             setTextColour(row, QPalette::WindowText, heading);
     }
 }
 
+LeftSidebar::Rows LeftSidebar::shown(const Rows& rows)
+{
+    Rows shown = rows;
+    std::erase_if(shown, [](const Row& row) { return row.widget->isHidden(); });
+    return shown;
+}
+
 void LeftSidebar::arrange()
 {
-    std::vector<Row> shown;
-    std::vector<Row> highscores;
-    for (const Row& row : m_rows) {
-        if (!row.widget->isHidden())
-            (row.isHighscore ? highscores : shown).push_back(row);
-    }
+    const Rows header = shown(m_sidebarHeader);
+    const Rows highscores = shown(m_highscoreRows);
+    const Rows actions = shown(m_sidebarActions);
     // What all other rows take, and the gap before the highscores.
     int others = endPadding + logoSlot + endPadding + gap + highscores.front().above;
-    for (const Row& row : shown)
-        others += gap + row.above + row.widget->sizeHint().height() + row.below;
+    for (const Rows* const rows : {&header, &actions}) {
+        for (const Row& row : *rows)
+            others += gap + row.above + row.widget->sizeHint().height() + row.below;
+    }
     const int shrinkable = gap * (static_cast<int>(highscores.size()) - 1);
     int natural = shrinkable - highscores.front().above;
     for (const Row& row : highscores)
@@ -243,17 +254,15 @@ void LeftSidebar::arrange()
         row.widget->setGeometry(ScreenMetrics::leadingPadding, y, width, height);
         y += height + row.below;
     };
-    const auto firstAction =
-        std::ranges::find(shown, static_cast<QWidget*>(m_resetButton), &Row::widget);
-    std::for_each(shown.begin(), firstAction, place);
+    std::ranges::for_each(header, place);
     y += gap + highscores.front().above;
     m_highscoreArea->move(ScreenMetrics::leadingPadding, y);
     arrangeHighscores(highscores, closeTogether, visible);
     y += visible;
-    std::for_each(firstAction, shown.end(), place);
+    std::ranges::for_each(actions, place);
 }
 
-void LeftSidebar::arrangeHighscores(const std::vector<Row>& shown, int height, int visibleHeight)
+void LeftSidebar::arrangeHighscores(const Rows& highscores, int height, int visibleHeight)
 {
     m_highscoreArea->resize(
         std::min(ScreenMetrics::leftPanelWidth, m_column->width() - ScreenMetrics::leadingPadding),
@@ -265,13 +274,13 @@ void LeftSidebar::arrangeHighscores(const std::vector<Row>& shown, int height, i
     m_highscoreColumn->resize(m_highscoreArea->width() - barWidth, height);
 
     int rows = 0;
-    for (const Row& row : shown)
+    for (const Row& row : highscores)
         rows += row.widget->sizeHint().height() + row.above;
-    const int gaps = height - rows + shown.front().above;
-    const auto count = static_cast<int>(shown.size()) - 1;
+    const int gaps = height - rows + highscores.front().above;
+    const auto count = static_cast<int>(highscores.size()) - 1;
     int y = 0;
     for (int i = 0; i <= count; ++i) {
-        const Row& row = shown[static_cast<std::size_t>(i)];
+        const Row& row = highscores[static_cast<std::size_t>(i)];
         if (i > 0)
             y += row.above + qRound(1.0 * gaps * i / count) - qRound(1.0 * gaps * (i - 1) / count);
         const int rowHeight = row.widget->sizeHint().height();

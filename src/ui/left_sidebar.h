@@ -44,30 +44,34 @@ private:
         int width = 0;
         int above = 0; ///< In addition to the column's gap.
         int below = 0;
-        bool isHighscore = false; ///< Gaps between such rows may shrink.
     };
+    using Rows = std::vector<Row>;
 
     [[nodiscard]] ElidedLabel* addLine(const char* name, int width, const QFont& font);
     [[nodiscard]] QPushButton* addButton(const char* key, const char* name, int above);
     void addVersusCheckbox();
     void alignButtons();
     void showMode();
-    void refreshPlayerLines();
+    void refreshSidebarHeader();
+    void refreshSidebarActions();
+    [[nodiscard]] static Rows shown(const Rows& rows);
     void arrange();
-    void arrangeHighscores(const std::vector<Row>& shown, int height, int visibleHeight);
+    void arrangeHighscores(const Rows& highscores, int height, int visibleHeight);
 
     MemoryGame& m_game;
     QWidget* m_column;
     QScrollArea* m_highscoreArea;
     QWidget* m_highscoreColumn;
-    std::vector<Row> m_rows{};
+    Rows m_sidebarHeader{}; ///< Below the logo.
+    Rows m_highscoreRows{}; ///< Their gaps may shrink.
+    Rows m_sidebarActions{};
     ElidedLabel* m_pairingLine;
     ElidedLabel* m_firstScoreLine;
     ElidedLabel* m_secondScoreLine;
     ElidedLabel* m_nameLine;
     ElidedLabel* m_timeLine;
     ElidedLabel* m_failuresLine;
-    HighscoreSection m_highscores;
+    HighscoreSection m_highscoreSection;
     QPushButton* m_resetButton = nullptr;
     QCheckBox* m_versusCheckbox = nullptr;
     QPushButton* m_endButton = nullptr;
