@@ -5,6 +5,7 @@
 #include "app/app_delegate.h"
 #include "app/main_window.h"
 #include "game/memory_game.h"
+#include "game/rules/card_layout.h"
 #include "platform/widgets/alert_box.h"
 #include "stage/play.h"
 #include "stage/stage_platform.h"
@@ -45,6 +46,13 @@ public:
     [[nodiscard]] MemoryGame& game() { return delegate.contentView()->game(); }
     [[nodiscard]] MainWindow& window() { return *delegate.window(); }
 
+    /// The size of the window below its menu bar.
+    [[nodiscard]] QSize contentSize() { return delegate.contentView()->size(); }
+    /// The one that `layout` asks for.
+    [[nodiscard]] static QSize sizeFor(const CardLayout& layout)
+    {
+        return {layout.windowWidth, layout.windowHeight};
+    }
     [[nodiscard]] QRect screen() { return window().screen()->geometry(); }
 
     template <class Widget>

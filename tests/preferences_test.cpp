@@ -150,17 +150,24 @@ private Q_SLOTS:
 
     void theMainWindowFollowsTheLayout()
     {
-        PaneWindow window("AmountCards=3\n", [](StagePlatform& platform) {
-            writeResults(platform, 1, {.playerName = u"Mia"_s, .amountCards = 4});
+        PaneWindow window({}, [](StagePlatform& platform) {
+            writeResults(platform, 1, {.playerName = u"Mia"_s, .amountCards = 6});
         });
-        QVERIFY(window.game().bestTimeScores().empty());
         window.key(Qt::Key_Tab);
-        window.key(Qt::Key_Up);
-        QCOMPARE(stored("AmountCards"), "4"_ba);
-        QCOMPARE(window.pane->cards_label()->text(), u"6 × 4, 12 pairs"_s);
-        QTRY_COMPARE(window.delegate.contentView()->size(), QSize(1320, 760));
-        QCOMPARE(window.window().geometry().center(), window.screen().center());
+        for (int number = 1; const CardLayout& layout : cardLayouts) {
+            QCOMPARE(window.game().bestTimeScores().empty(), &layout != &cardLayouts.back());
+            QCOMPARE(stored("AmountCards"), QByteArray::number(number++));
+            QCOMPARE(
+                window.pane->cards_label()->text(),
+                u"%1 × %2, %3 pairs"_s.arg(layout.columns).arg(layout.rows).arg(layout.pairs()));
+            QTRY_COMPARE(window.contentSize(), GameWindow::sizeFor(layout));
+            QCOMPARE(window.window().geometry().center(), window.screen().center());
+            window.key(Qt::Key_Up);
+        }
         QCOMPARE(window.text(u"bestTimes1"_s), u"1. Mia – 00:59"_s);
+        window.key(Qt::Key_Tab, Qt::ShiftModifier);
+        window.key(Qt::Key_Up);
+        QVERIFY(window.game().bestTimeScores().empty()); // none of two rounds
     }
 
     void theVolumeIsStoredAndHeardWhenAChangeEnds()

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "game/rules/card_layout.h"
 #include "platform/application_bundle.h"
 #include "platform/localized_text.h"
 #include "stage/files.h"
@@ -75,6 +76,10 @@ private Q_SLOTS:
             for (const QString& id : needed)
                 QVERIFY2(texts.contains(id) || texts.contains(u"card_"_s + id),
                          qPrintable(language + u": "_s + id));
+            for (int number = 1; const CardLayout& layout : cardLayouts)
+                QCOMPARE(allOf(u"\\d+"_s, texts[u"card_layout_%1"_s.arg(number++)][0]),
+                         (QStringList{QString::number(layout.columns), QString::number(layout.rows),
+                                      QString::number(layout.pairs())}));
             for (auto text = texts.begin(); text != texts.end(); ++text) {
                 for (const QString& form : *text) {
                     QVERIFY2(!form.trimmed().isEmpty() && !form.contains(u'&') &&

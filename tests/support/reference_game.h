@@ -3,6 +3,7 @@
 #pragma once
 
 #include "game/memory_game.h"
+#include "game/rules/card_layout.h"
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
 
@@ -50,7 +51,7 @@ public:
         assignments.push_back(name);
     }
 
-    int pairsPerRound() const { return QList{6, 8, 10, 12, 14, 20}[layout() - 1]; }
+    int pairsPerRound() const { return cardLayouts[std::size_t(layout() - 1)].pairs(); }
     Number layout() const { return std::clamp<Number>(settings[SettingsKeys::AmountCards], 1, 6); }
     Number rounds() const { return std::max<Number>(settings[SettingsKeys::AmountRounds], 1); }
     static QString nameOr(const char* substitute, const QString& typed)

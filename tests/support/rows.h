@@ -7,7 +7,7 @@
 /// The table of a test: declares its columns, then adds a row at each call.
 ///
 ///     const Rows<qint64, QSize> row{"amountCards", "size"};
-///     row("the largest board", 6, QSize(1580, 900));
+///     row("none", 0, QSize(640, 480));
 template <class... Columns>
 class Rows {
     template <class>
