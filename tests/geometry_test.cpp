@@ -127,7 +127,8 @@ private:
         m_window = std::make_unique<GameWindow>(
             [&](StagePlatform& platform) {
                 platform.defaults->setInteger(SettingsKeys::AmountCards, layout);
-                platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen, isFullScreen);
+                platform.defaults->setInteger(SettingsKeys::LaunchInFullscreen,
+                                              isFullScreen ? 1 : 2);
                 writeResults(
                     platform, count,
                     {.playerName = name, .secondPlayerName = name, .firstPlayerScore = 11});

@@ -122,6 +122,8 @@ private Q_SLOTS:
             QTRY_COMPARE(faceUpCards(game()), 0);
         }
         QCOMPARE(m_window->text(u"failuresLine"_s), u"Failed attempts: 2"_s);
+        QVERIFY(game().elapsedSeconds() >= 2);
+        QTRY_COMPARE(m_window->text(u"timeLine"_s), u"Time: "_s + game().formattedElapsedTime());
     }
 
     void aVersusGameByMouse()
