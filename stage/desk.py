@@ -65,6 +65,11 @@ class Desk:
         self.processes.append(process)
         return process
 
+    def set_work_area(self, width, height):
+        """Leaves that much of the screen to windows, as a panel does."""
+        subprocess.run(["xprop", "-root", "-f", "_NET_WORKAREA", "32c", "-set", "_NET_WORKAREA",
+                        f"0, 0, {width}, {height}"], check=True, timeout=10)
+
     def write_settings(self, **settings):
         folder = self.home / "config" / "Paircade"
         folder.mkdir(parents=True, exist_ok=True)

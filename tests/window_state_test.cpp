@@ -5,6 +5,8 @@
 #include "stage/game_window.h"
 #include "support/results.h"
 
+#include <QMenuBar>
+
 using namespace Qt::StringLiterals;
 
 class WindowStateTest : public QObject {
@@ -25,6 +27,34 @@ private Q_SLOTS:
         QCOMPARE(window.delegate.contentView()->calculateCardSize({700, 500}), 70.0);
         QVERIFY(!item.isChecked());
         QTRY_COMPARE(window.window().minimumSize(), window.window().maximumSize());
+    }
+
+    void windowFollowsMenuBarAndScreen()
+    {
+        GameWindow window;
+        const QSize size = GameWindow::sizeFor(cardLayouts.front());
+        const QPoint place(20, 30); // where the player has put it
+        window.window().move(place);
+        window.window().menuBar()->updateGeometry();
+        QTest::qWait(20);
+        QCOMPARE(window.window().pos(), place);
+
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        for (QScreen* const screen : {screens[1], screens[0]}) {
+            window.window().windowHandle()->setScreen(screen);
+            QTRY_COMPARE(window.contentSize() == size, screen == screens[0]);
+            QVERIFY(screen->geometry().contains(window.window().geometry()));
+        }
+
+        const QFont font = QApplication::font("QMenuBar");
+        QFont larger = font;
+        larger.setPointSize(3 * font.pointSize());
+        for (const QFont& shown : {larger, font}) {
+            QApplication::setFont(shown, "QMenuBar");
+            QTest::qWait(20); // lays out
+            QCOMPARE(window.contentSize(), size);
+            QCOMPARE(window.window().geometry().center(), window.screen().center());
+        }
     }
 
     void theSidebarShowsFiveOfEachList()

@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QWindow>
 #include <chrono>
 #include <utility>
 
@@ -16,6 +17,10 @@ namespace {
 // is shown, and says nothing of it.
 constexpr std::chrono::milliseconds frameWatchInterval{10};
 constexpr std::chrono::milliseconds frameWatchTime{600};
+
+// A window that is dragged to another screen keeps its size until it rests: resized at
+// once, it would slip from the player's hand.
+constexpr std::chrono::milliseconds areaDelay{300};
 
 } // namespace
 
@@ -31,6 +36,9 @@ MainWindow::MainWindow()
         if (m_frameDeadline.hasExpired())
             m_frameWatch.stop();
     });
+    m_areaTimer.setSingleShot(true);
+    m_areaTimer.setInterval(areaDelay);
+    connect(&m_areaTimer, &QTimer::timeout, this, &MainWindow::followScreenArea);
 }
 
 void MainWindow::setContentSize(QSize size)
@@ -72,6 +80,24 @@ void MainWindow::awaitFrame()
     m_settledFrame = QSize(-1, -1);
     m_frameDeadline.setRemainingTime(frameWatchTime);
     m_frameWatch.start();
+}
+
+void MainWindow::watchScreen()
+{
+    disconnect(m_screenWatch);
+    const auto startTimer = qOverload<>(&QTimer::start);
+    m_screenWatch = connect(screen(), &QScreen::availableGeometryChanged, &m_areaTimer, startTimer);
+    m_areaTimer.start();
+}
+
+void MainWindow::followScreenArea()
+{
+    if (isFullScreen())
+        return;
+    const QSize before = size();
+    applyContentSize();
+    if (size() != before)
+        centre();
 }
 
 void MainWindow::toggleFullScreen()
@@ -118,8 +144,28 @@ void MainWindow::paintEvent(QPaintEvent* event)
 void MainWindow::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
-    if (!event->spontaneous())
-        awaitFrame();
+    if (event->spontaneous())
+        return;
+    awaitFrame();
+    connect(windowHandle(), &QWindow::screenChanged, this, &MainWindow::watchScreen,
+            Qt::UniqueConnection);
+    watchScreen();
+}
+
+bool MainWindow::event(QEvent* event)
+{
+    const bool isHandled = QMainWindow::event(event);
+    // The menu bar may have become higher or lower, by another font or desktop.
+    if (event->type() == QEvent::LayoutRequest)
+        followScreenArea();
+    return isHandled;
+}
+
+void MainWindow::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    if (m_areaTimer.isActive())
+        m_areaTimer.start();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

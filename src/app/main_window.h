@@ -24,7 +24,8 @@ public:
     /// this one on return.
     void setContentSize(QSize size);
 
-    /// Moves the window to the middle of the display's free area.
+    /// Moves the window to the middle of the display's free area. It moves there by
+    /// itself as well when another display, area or menu bar leaves it another size.
     void centre();
 
     /// Fills the screen, or goes back to the size of setContentSize().
@@ -41,6 +42,8 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -51,6 +54,10 @@ private:
     /// Settles as soon as that frame changes, for as long as one may still come.
     void awaitFrame();
     void liftLimits();
+    /// Watches the free area of the screen that the window is on.
+    void watchScreen();
+    /// Sizes the window again; centres it if the size is another one.
+    void followScreenArea();
     [[nodiscard]] QSize frameSize() const { return frameGeometry().size() - geometry().size(); }
 
     bool m_hasAppeared = false;
@@ -58,4 +65,6 @@ private:
     QSize m_settledFrame{};
     QTimer m_frameWatch{};
     QDeadlineTimer m_frameDeadline{};
+    QMetaObject::Connection m_screenWatch{};
+    QTimer m_areaTimer{};
 };

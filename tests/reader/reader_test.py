@@ -199,6 +199,10 @@ class ReaderTest(unittest.TestCase):
     def test_one_player(self):
         game = self.start(AmountCards=1, AmountRounds=1)
         self.assertEqual(game.focused(), ["Enter your name"])
+        for area, widths in (800, range(700, 801)), (1920, [1100]):  # a panel comes and goes
+            DESK.set_work_area(area, 1080)
+            game.until(lambda expected=widths: game.window.queryComponent().getSize()[0] in expected,
+                       f"a window in {area}")
         game.write("Enter your name", "Ann")
         game.press(BUTTON, "Start Game")
         game.expect("Round 1 of 1. Cards dealt: 3 rows, 4 columns.")
