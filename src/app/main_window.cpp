@@ -3,6 +3,7 @@
 #include "app/main_window.h"
 
 #include "platform/localized_text.h"
+#include "platform/widgets/native_background.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -121,6 +122,8 @@ void MainWindow::liftLimits()
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showBackground();
     if (event->type() != QEvent::WindowStateChange)
         return;
     const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
@@ -146,10 +149,18 @@ void MainWindow::showEvent(QShowEvent* event)
     QMainWindow::showEvent(event);
     if (event->spontaneous())
         return;
+    showBackground();
     awaitFrame();
     connect(windowHandle(), &QWindow::screenChanged, this, &MainWindow::watchScreen,
             Qt::UniqueConnection);
     watchScreen();
+}
+
+void MainWindow::showBackground()
+{
+    // A window that grows would show the window manager's own white until it is painted.
+    if (windowHandle() != nullptr)
+        setNativeBackground(*windowHandle(), palette().color(QPalette::Window));
 }
 
 bool MainWindow::event(QEvent* event)

@@ -54,6 +54,7 @@ private:
     /// Settles as soon as that frame changes, for as long as one may still come.
     void awaitFrame();
     void liftLimits();
+    void showBackground();
     /// Watches the free area of the screen that the window is on.
     void watchScreen();
     /// Sizes the window again; centres it if the size is another one.
