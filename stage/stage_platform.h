@@ -63,6 +63,7 @@ public:
     }
     [[nodiscard]] PhotoAlbums albums() override
     {
+        ++listed;
         return status ? content : PhotoLibrary::albums();
     }
     [[nodiscard]] QString limitedTo() const override
@@ -72,6 +73,7 @@ public:
 
     std::optional<PhotoAuthorization> status = PhotoAuthorization::restricted; ///< None: the real.
     PhotoAlbums content{};
+    int listed = 0; ///< How often the albums were asked for.
     QString folder{};
 };
 

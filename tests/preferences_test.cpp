@@ -214,15 +214,24 @@ private Q_SLOTS:
         PaneWindow window("AmountRounds=2\nAmountCards=2\nCardDeck=Kids\n");
         makeDeck(window.resources(), u"70s"_s, 24);
         writeSettings("AmountRounds=5\nAmountCards=5\nCardDeck=70s\nForeign=kept\n");
-        const QSpinBox& rounds = *window.pane->roundsStepper();
-        QCOMPARE(rounds.value(), 2);
         window.startGame(); // reads the file; the open pane's steppers win
         QCOMPARE(stored("AmountRounds"), "2"_ba);
         QCOMPARE(stored("AmountCards"), "2"_ba);
         QCOMPARE(stored("CardDeck"), "70s"_ba);
         QCOMPARE(stored("Foreign"), "kept"_ba);
 
-        // Meanwhile they are locked.
+        // What others write from now on waits for the next game, the pane opened or not.
+        writeSettings("AmountRounds=5\nAmountCards=5\nCardDeck=Kids\n");
+        window.close();
+        window.open();
+        QCOMPARE(window.game().cardColumns(), 4);
+        QVERIFY(window.decks().hasFocus());
+        QCOMPARE(window.decks().currentText(), u"70s"_s);
+        window.key(Qt::Key_Down); // for the next round
+        QCOMPARE(stored("CardDeck"), "80s"_ba);
+
+        // Meanwhile the steppers are locked.
+        const QSpinBox& rounds = *window.pane->roundsStepper();
         QVERIFY(!rounds.isEnabled() && !window.pane->cardsStepper()->isEnabled());
         QCOMPARE(rounds.toolTip(), u"Can be changed when the game is over."_s);
         QCOMPARE(rounds.accessibleDescription(), rounds.toolTip());
@@ -284,6 +293,7 @@ private Q_SLOTS:
         QCOMPARE(titles, Preferences::baseCardDecks() + albums);
         QTEST(window.text(u"photosState"_s), "photos");
         QCOMPARE(window.child<QWidget>(u"photosButton"_s).isEnabled(), status != 1);
+        QCOMPARE(window.platform.photos.listed, albums.isEmpty() ? 0 : 1); // of one opening
         if (albums.isEmpty())
             return;
 
@@ -304,11 +314,12 @@ private Q_SLOTS:
 
         // Once the album is known to be gone, the choice goes with it.
         window.platform.photos.content = {.list = {}, .isComplete = false};
-        window.pane->rebuildCardDeckMenu();
+        window.choose(u"menu_preferences"_s);
+        QCOMPARE(window.decks().count(), 7);
         QCOMPARE(window.decks().currentText(), u"iPhoto: bee"_s);
-        window.close();
+        window.pane->showMinimized();
         window.platform.photos.content.isComplete = true;
-        window.open();
+        window.choose(u"menu_preferences"_s);
         QCOMPARE(window.decks().currentText(), u"Cyberpunk"_s);
         QCOMPARE(stored("CardDeck"), "Cyberpunk"_ba);
         QCOMPARE(window.child<QWidget>(u"deckPreview"_s).accessibleName(),

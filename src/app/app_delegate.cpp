@@ -81,6 +81,8 @@ void AppDelegate::showPreferences()
         // Closed, it would go on writing back what it once showed.
         m_preferences = new Preferences(this, m_window.get());
         m_preferences->setAttribute(Qt::WA_DeleteOnClose);
+    } else if (m_preferences->isVisible() && !m_preferences->isMinimized()) {
+        m_preferences->viewDidAppear(); // minimised windows do so by themselves
     }
     m_preferences->setWindowState(m_preferences->windowState() & ~Qt::WindowMinimized);
     m_preferences->show();

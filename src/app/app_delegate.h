@@ -37,7 +37,8 @@ public:
     /// screen only the board follows. Without a window nothing happens.
     void updateWindowSizeForCurrentLayout() override;
 
-    /// Opens the preferences, or brings those that are open to the front.
+    /// Opens the preferences; if they are open, brings them to the front with the albums
+    /// that there are now.
     void showPreferences();
 
     /// Marks that no game runs. Closing the window announces it as well.

@@ -12,7 +12,7 @@
 
 namespace {
 
-// The preferences list the albums twice when they are opened first.
+// Impatient players choose the preferences again while a dead mount blocks the first list.
 constexpr std::chrono::seconds keptIncomplete{5};
 
 } // namespace

@@ -114,7 +114,10 @@ QCheckBox* Preferences::paircade_album() const
 
 void Preferences::viewDidLoad()
 {
-    platform().defaults.reread();
+    // An edit by another program must not change the board of a running game.
+    const MemoryGame* const game = m_link == nullptr ? nullptr : m_link->shownGame();
+    if (game == nullptr || !game->isGameActive())
+        platform().defaults.reread();
     fillInTexts();
     showStoredSettings();
     updateRoundsLabel(roundsStepper()->value());
@@ -125,26 +128,33 @@ void Preferences::viewDidLoad()
     updatePaircadeAlbumState();
     updateStepperState();
     connectControls();
+    m_isOpening = true;
 }
 
 void Preferences::viewDidAppear()
 {
     window()->setWindowTitle(QString());
-    platform().defaults.reread();
     rebuildCardDeckMenu();
     updatePaircadeAlbumState();
     updatePhotosRow();
-
-    QWidget* const first =
-        roundsStepper()->isEnabled() ? static_cast<QWidget*>(roundsStepper()) : cardDeck_dropdown();
-    first->setFocus(Qt::OtherFocusReason);
 }
 
 void Preferences::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    // A window that was minimised has been there all the time.
-    if (!event->spontaneous())
+    if (event->spontaneous())
+        return;
+    viewDidAppear();
+    QWidget* const first =
+        roundsStepper()->isEnabled() ? static_cast<QWidget*>(roundsStepper()) : cardDeck_dropdown();
+    first->setFocus(Qt::OtherFocusReason);
+}
+
+void Preferences::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && !isMinimized() &&
+        static_cast<QWindowStateChangeEvent*>(event)->oldState() & Qt::WindowMinimized)
         viewDidAppear();
 }
 

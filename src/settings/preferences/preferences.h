@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/photo_fetch.h"
+
 #include <QDialog>
 #include <QString>
 #include <QStringList>
@@ -47,6 +49,10 @@ public:
     [[nodiscard]] QComboBox* cardDeck_dropdown() const;
     [[nodiscard]] QCheckBox* paircade_album() const;
 
+    /// Shows the albums that there are now. Called whenever the window comes on screen, and
+    /// when it is asked for while it is there.
+    void viewDidAppear();
+
     // What the user's acts lead to.
     /// Stores the rounds; the main window and its highscores follow.
     void stepper_value_rounds();
@@ -68,20 +74,20 @@ public:
     /// may be among those that could not be listed.
     void rebuildCardDeckMenu();
     /// The titles of the user's albums that hold something, sorted for a reader;
-    /// equal ones are kept. Never asks for access: without it there are none.
-    /// `areAll` is set to whether all could be listed.
-    [[nodiscard]] QStringList fetchAvailablePhotoAlbums(bool* areAll = nullptr) const;
+    /// equal ones are kept. Never asks for access: without it there are none. Blocks while
+    /// the library is read.
+    [[nodiscard]] QStringList fetchAvailablePhotoAlbums();
     /// Says `count` rounds beside their stepper, in the language's form for it.
     void updateRoundsLabel(std::int64_t count);
     /// The name of the layout `index`; the number itself if there is no such one.
     [[nodiscard]] static QString cardLayoutLabel(std::int64_t index);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void viewDidLoad();
-    void viewDidAppear();
     void fillInTexts();
     void showStoredSettings();
     void connectControls();
@@ -98,4 +104,8 @@ private:
     std::unique_ptr<Ui::Preferences> m_ui;
     ElidedLabel* m_photosState = nullptr;
     MainWindowLink* m_link;
+    PhotoAlbums m_albums{}; ///< As last listed.
+    /// True between viewDidLoad() and the viewDidAppear() of the same opening, which
+    /// uses that list again.
+    bool m_isOpening = false;
 };

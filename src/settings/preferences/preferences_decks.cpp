@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 #include <ui_preferences.h>
+#include <utility>
 
 void Preferences::carddeck_changed()
 {
@@ -43,10 +44,9 @@ void Preferences::rebuildCardDeckMenu()
     const QString current =
         platform().defaults.string(SettingsKeys::CardDeck).value_or(baseCardDecks().front());
     QStringList decks = baseCardDecks();
-    bool areAll = true;
-    for (const QString& title : fetchAvailablePhotoAlbums(&areAll))
+    for (const QString& title : fetchAvailablePhotoAlbums())
         decks << albumPrefix() + title;
-    if (!areAll && current.startsWith(albumPrefix()))
+    if (!m_albums.isComplete && current.startsWith(albumPrefix()))
         decks << current;
     decks.removeDuplicates();
 
@@ -68,16 +68,13 @@ void Preferences::rebuildCardDeckMenu()
     showDeck();
 }
 
-QStringList Preferences::fetchAvailablePhotoAlbums(bool* areAll) const
+QStringList Preferences::fetchAvailablePhotoAlbums()
 {
     PhotoLibrary& photos = platform().photos;
-    if (!allowsReading(photos.authorizationStatus()))
-        return {};
-    const PhotoAlbums albums = photos.albums();
-    if (areAll != nullptr)
-        *areAll = albums.isComplete;
+    if (!std::exchange(m_isOpening, false))
+        m_albums = allowsReading(photos.authorizationStatus()) ? photos.albums() : PhotoAlbums{};
     QStringList titles;
-    for (const PhotoAlbum& album : albums.list) {
+    for (const PhotoAlbum& album : m_albums.list) {
         const QString title = trimmedText(album.localizedTitle.value_or(QString()));
         if (!title.isEmpty() && album.assetCount >= 1)
             titles << title;
