@@ -4,12 +4,9 @@
 
 #include "photos/file_kind.h"
 
-#include <QList>
-#include <QSet>
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
@@ -35,7 +32,6 @@ bool mayPass()
 struct Entries {
     QList<QByteArray> files{};
     QList<QByteArray> folders{};
-    QList<QByteArray> links{};
     bool areAll = true; ///< Whether none is missing that may be there another time.
 };
 
@@ -75,33 +71,19 @@ Entries entriesOf(int folder)
         case DT_DIR:
             entries.folders << entry->d_name;
             break;
-        case DT_LNK:
-            entries.links << entry->d_name;
-            break;
-        default: // Pipes, sockets and devices are no pictures.
+        default: // Pipes and devices are no pictures; a link's target may not answer.
             break;
         }
     }
     entries.areAll = !mayPass();
-    for (QList<QByteArray>* const list : {&entries.files, &entries.folders, &entries.links})
-        std::ranges::sort(*list);
+    std::ranges::sort(entries.files);
+    std::ranges::sort(entries.folders);
     return entries;
 }
 
 QByteArray joined(const QByteArray& folder, const QByteArray& name)
 {
     return folder.isEmpty() ? name : folder + '/' + name;
-}
-
-bool isBelow(const QByteArray& path, const QByteArray& folder)
-{
-    return folder.isEmpty() || path.startsWith(folder + '/');
-}
-
-bool isFolder(int opened)
-{
-    struct stat status {};
-    return ::fstat(opened, &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 } // namespace
@@ -126,82 +108,8 @@ Descriptor openBelow(int root, const QByteArray& path)
     return opened;
 }
 
-/// One listing under way.
-class Listing::Walk {
-public:
-    Walk(Listing& listing, const QByteArray& top, bool withFilms, const Visitor& visit)
-        : m_listing(listing)
-        , m_top(top)
-        , m_withFilms(withFilms)
-        , m_visit(visit)
-    {
-    }
-
-    /// False if the visitor has had enough.
-    bool folder(const Descriptor& opened, const QByteArray& path, int depth)
-    {
-        if (!opened.isOpen() || depth > deepest)
-            return true;
-        const Entries entries = entriesOf(opened.get());
-        m_listing.m_isWhole = m_listing.m_isWhole && entries.areAll;
-        for (const QByteArray& name : entries.files) {
-            if (!file(joined(path, name)))
-                return false;
-        }
-        for (const QByteArray& name : entries.links) {
-            if (!link(path, name, depth))
-                return false;
-        }
-        return std::ranges::all_of(entries.folders, [&](const QByteArray& name) {
-            m_listing.m_progress();
-            const Descriptor inner(
-                ::openat(opened.get(), name.constData(), readOnly | O_DIRECTORY));
-            m_listing.note(inner.isOpen());
-            return folder(inner, joined(path, name), depth + 1);
-        });
-    }
-
-private:
-    bool file(const QByteArray& path)
-    {
-        const FileKind kind = kindByName(path);
-        if (kind == FileKind::none || (kind == FileKind::film && !m_withFilms))
-            return true;
-        if (!isBelow(path, m_top)) {
-            if (m_outside.contains(path))
-                return true;
-            m_outside.insert(path);
-        }
-        return m_visit(path);
-    }
-
-    bool link(const QByteArray& path, const QByteArray& name, int depth)
-    {
-        m_listing.m_progress();
-        const QByteArray target = m_listing.linkTarget(path, name);
-        // Below the top it is listed where it is, and an upper folder is a circle.
-        if (target.isEmpty() || isBelow(target, m_top) || target == m_top ||
-            isBelow(m_top, target) || m_linked.contains(target))
-            return true;
-        m_linked.insert(target);
-        const Descriptor opened = openBelow(m_listing.m_root, target);
-        m_listing.note(opened.isOpen());
-        if (!opened.isOpen())
-            return true;
-        return isFolder(opened.get()) ? folder(opened, target, depth + 1) : file(target);
-    }
-
-    Listing& m_listing;
-    const QByteArray& m_top;
-    bool m_withFilms;
-    const Visitor& m_visit;
-    QSet<QByteArray> m_linked{};  ///< Where links led that were followed.
-    QSet<QByteArray> m_outside{}; ///< What was visited out of the top, through links.
-};
-
-Listing::Listing(int root, QByteArray rootPath, std::function<void()> progress)
+Listing::Listing(int root, std::function<void()> progress)
     : m_root(root)
-    , m_rootPath(std::move(rootPath))
     , m_progress(std::move(progress))
 {
 }
@@ -211,40 +119,38 @@ void Listing::visitAssets(const QByteArray& path, bool withFilms, const Visitor&
     m_progress();
     const Descriptor top = openBelow(m_root, path);
     note(top.isOpen());
-    Walk(*this, path, withFilms, visit).folder(top, path, 0);
+    visitFolder(top, path, 0, [&](const QByteArray& asset) {
+        return (!withFilms && kindByName(asset) == FileKind::film) || visit(asset);
+    });
 }
 
-void Listing::visitAlbums(const std::function<void(const QByteArray&, const QByteArray&)>& visit)
+QList<QByteArray> Listing::albums()
 {
     const Entries entries = entriesOf(m_root);
     m_isWhole = m_isWhole && entries.areAll;
-    for (const QByteArray& name : entries.folders)
-        visit(name, name);
-    for (const QByteArray& name : entries.links) {
-        const QByteArray target = linkTarget({}, name);
-        if (target.isEmpty())
-            continue;
-        const Descriptor opened = openBelow(m_root, target);
-        note(opened.isOpen());
-        if (isFolder(opened.get()))
-            visit(name, target);
+    return entries.folders;
+}
+
+bool Listing::visitFolder(const Descriptor& folder, const QByteArray& path, int depth,
+                          const Visitor& visit)
+{
+    if (!folder.isOpen() || depth > deepest)
+        return true;
+    const Entries entries = entriesOf(folder.get());
+    m_isWhole = m_isWhole && entries.areAll;
+    for (const QByteArray& name : entries.files) {
+        if (!visit(joined(path, name)))
+            return false;
     }
+    return std::ranges::all_of(entries.folders, [&](const QByteArray& name) {
+        m_progress();
+        const Descriptor inner(::openat(folder.get(), name.constData(), readOnly | O_DIRECTORY));
+        note(inner.isOpen());
+        return visitFolder(inner, joined(path, name), depth + 1, visit);
+    });
 }
 
 void Listing::note(bool isRead)
 {
     m_isWhole = m_isWhole && (isRead || !mayPass());
-}
-
-QByteArray Listing::linkTarget(const QByteArray& folder, const QByteArray& name)
-{
-    const QByteArray path = m_rootPath + '/' + joined(folder, name);
-    const std::unique_ptr<char, void (*)(void*)> resolved(::realpath(path.constData(), nullptr),
-                                                          std::free);
-    note(resolved != nullptr);
-    const QByteArray target(resolved.get());
-    const QByteArray inside = m_rootPath.endsWith('/') ? m_rootPath : m_rootPath + '/';
-    if (!target.startsWith(inside) || target.indexOf("/.", inside.size() - 1) >= 0)
-        return {};
-    return target.mid(inside.size());
 }

@@ -13,7 +13,6 @@
 #include <QFile>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -83,23 +82,29 @@ private:
     QElapsedTimer m_since{};
 };
 
-void listAlbums(Listing& listing, Replies& replies, bool isCounted)
+/// Ends a list. If something is missing, exits without `done`, so that the game treats the
+/// list as incomplete.
+void finishList(const Listing& listing, Replies& replies)
 {
-    listing.visitAlbums([&](const QByteArray& title, const QByteArray& path) {
-        bool holdsSomething = !isCounted;
-        if (isCounted)
-            listing.visitAssets(path, true, [&holdsSomething](const QByteArray&) {
-                holdsSomething = true;
-                return false;
-            });
-        replies.add(Kind::album, QByteArray(1, holdsSomething ? '\1' : '\0') + title + '\0' + path);
-    });
-    // Without a last word the game takes them for some of the albums only.
     if (!listing.isWhole()) {
         replies.showProgress();
         ::_exit(1);
     }
     replies.finish(Kind::done);
+}
+
+void listAlbums(Listing& listing, Replies& replies, bool isCounted)
+{
+    for (const QByteArray& album : listing.albums()) {
+        bool holdsSomething = !isCounted;
+        if (isCounted)
+            listing.visitAssets(album, true, [&holdsSomething](const QByteArray&) {
+                holdsSomething = true;
+                return false;
+            });
+        replies.add(Kind::album, QByteArray(1, holdsSomething ? '\1' : '\0') + album);
+    }
+    finishList(listing, replies);
 }
 
 void listAssets(Listing& listing, Replies& replies, const QByteArray& folder, bool withFilms)
@@ -108,7 +113,7 @@ void listAssets(Listing& listing, Replies& replies, const QByteArray& folder, bo
         replies.addPath(path);
         return true;
     });
-    replies.finish(Kind::done);
+    finishList(listing, replies);
 }
 
 QByteArray pixelsOf(const QImage& image)
@@ -150,16 +155,13 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv);
     if (argc != 2)
         return 2;
-    char* const resolved = ::realpath(argv[1], nullptr);
-    const QByteArray library(resolved);
-    std::free(resolved);
-    const Descriptor root(::open(library.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor root(::open(argv[1], O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!root.isOpen())
         return 1;
-    confine(library);
+    confine(argv[1]);
 
     Replies replies;
-    Listing listing(root.get(), library, [&replies] { replies.showProgress(); });
+    Listing listing(root.get(), [&replies] { replies.showProgress(); });
     PhotoMessages::FrameReader requests;
     std::array<char, 8192> bytes{};
     while (!requests.isBroken()) {

@@ -78,16 +78,19 @@ std::optional<Frame> PhotoFetch::receive()
     return reply;
 }
 
-bool PhotoFetch::list(Kind request, QByteArrayView content,
+void PhotoFetch::list(Kind request, QByteArrayView content,
                       const std::function<bool(const Frame&)>& take)
 {
+    m_isListComplete = m_library.isEmpty();
     ask(request, content);
     qsizetype total = 0;
     bool isSound = true;
     while (m_helper && isSound && total < mostPathBytes) {
         const std::optional<Frame> reply = receive();
-        if (!reply || reply->kind == Kind::done)
-            return reply.has_value();
+        if (!reply || reply->kind == Kind::done) {
+            m_isListComplete = reply.has_value();
+            return;
+        }
         total += reply->content.size();
         const bool isKept =
             withinMemory([&] { isSound = reply->kind == Kind::working || take(*reply); });
@@ -95,35 +98,28 @@ bool PhotoFetch::list(Kind request, QByteArrayView content,
     }
     // Whatever else it has to say belongs to this list.
     m_helper.reset();
-    return m_library.isEmpty();
 }
 
 PhotoAlbums PhotoFetch::albums(Counted counted)
 {
-    struct Listed {
-        QString title;
-        std::int64_t count;
-        QByteArray folder;
-    };
-    std::vector<Listed> listed;
     const Kind request = counted == Counted::no ? Kind::albums : Kind::countedAlbums;
     PhotoAlbums albums;
-    albums.isComplete = list(request, {}, [&listed](const Frame& reply) {
-        const qsizetype titleEnd = reply.content.indexOf('\0', 1);
-        if (reply.kind != Kind::album || titleEnd <= 1 || titleEnd + 1 == reply.content.size() ||
-            listed.size() == mostAlbums)
+    list(request, {}, [&albums](const Frame& reply) {
+        if (reply.kind != Kind::album || reply.content.size() < 2 ||
+            albums.list.size() == mostAlbums)
             return false;
-        listed.push_back({QFile::decodeName(reply.content.mid(1, titleEnd - 1)),
-                          reply.content.front() != '\0' ? 1 : 0, reply.content.mid(titleEnd + 1)});
+        const QByteArray folder = reply.content.sliced(1);
+        albums.list.push_back(
+            {QFile::decodeName(folder), reply.content.front() != '\0' ? 1 : 0, folder});
         return true;
     });
-    const bool isSorted = withinMemory([&] {
-        std::ranges::stable_sort(listed, sortsBefore, &Listed::title);
-        albums.list.reserve(listed.size());
-        for (const Listed& album : listed)
-            albums.list.push_back({album.title, album.count, album.folder});
+    const bool isSorted = withinMemory([&albums] {
+        std::ranges::stable_sort(
+            albums.list, sortsBefore,
+            [](const PhotoAlbum& album) -> const QString& { return *album.localizedTitle; });
     });
-    albums.isComplete = albums.isComplete && isSorted;
+    m_isListComplete = m_isListComplete && isSorted;
+    albums.isComplete = m_isListComplete;
     return albums;
 }
 

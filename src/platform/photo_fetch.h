@@ -58,6 +58,9 @@ public:
     /// Everything in the album, films too, in the order of their paths.
     [[nodiscard]] PhotoAssets assets(const PhotoAlbum& album);
 
+    /// True if the last list came to its end; otherwise something may be missing in it.
+    [[nodiscard]] bool isListComplete() const { return m_isListComplete; }
+
     /// The middle of the asset, 512 x 512 pixels; null if it yields no picture.
     [[nodiscard]] QImage image(const PhotoAsset& asset);
 
@@ -67,9 +70,9 @@ private:
     void ask(PhotoMessages::Kind request, QByteArrayView content = {});
     /// The next reply; none once there is no helper.
     [[nodiscard]] std::optional<PhotoMessages::Frame> receive();
-    /// Asks, and calls `take` with each reply up to the one that ends the list; false
-    /// where that does not come. `take` says whether the reply makes sense.
-    bool list(PhotoMessages::Kind request, QByteArrayView content,
+    /// Asks, and calls `take` with each reply up to the one that ends the list. `take`
+    /// says whether the reply makes sense.
+    void list(PhotoMessages::Kind request, QByteArrayView content,
               const std::function<bool(const PhotoMessages::Frame&)>& take);
     [[nodiscard]] PhotoAssets assetList(PhotoMessages::Kind request, QByteArrayView content);
 
@@ -81,4 +84,5 @@ private:
     std::unique_ptr<BusyPointer> m_pointer;
     int m_stalls = 0; ///< Over pictures.
     bool m_isInterrupted = false;
+    bool m_isListComplete = true;
 };

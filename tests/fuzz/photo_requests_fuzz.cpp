@@ -47,7 +47,7 @@ void tryInput(const QByteArray& input)
     static const QTemporaryDir folder;
     static const QByteArray library = madeLibrary(folder);
     static const Descriptor root(::open(library.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    Listing listing(root.get(), library, [] {});
+    Listing listing(root.get(), [] {});
 
     const Requests requests = requestsIn(input, input.size());
     require(requests == requestsIn(input, 3), "pieces make no difference");

@@ -11,7 +11,7 @@
 /// The game writes requests to the helper's standard input and reads replies from
 /// its standard output; one request at a time. A frame is a byte for its kind,
 /// four for the length of what follows, in the machine's order, and that. Paths
-/// are bytes, relative to the folder of the library, without links in them.
+/// are bytes, relative to the folder of the library.
 namespace PhotoMessages {
 
 /// The width and height of every picture, in pixels.
@@ -31,12 +31,12 @@ enum class Kind : std::uint8_t {
     picture,       ///< Content: a path. Reply: pixels.
 
     // Replies.
-    album,   ///< A byte (0: holds nothing; 1: something, or not counted), title, NUL, path.
+    album,   ///< A byte (0: holds nothing; 1: something, or not counted), the folder's name.
     paths,   ///< Paths, each followed by NUL.
     pixels,  ///< Nothing if there is no picture. Else 1 if it has alpha or 0, then the
              ///< pixels as 32-bit ARGB, premultiplied.
     working, ///< No content. Progress without a result so far.
-    done,    ///< No content. The end of a list; without it some albums may be missing.
+    done,    ///< No content. The end of a list; without it something may be missing.
 };
 
 struct Frame {
