@@ -5,13 +5,6 @@
 #include "decks/card_picture.h"
 #include "platform/photo_fetch.h"
 
-#include <optional>
-
-/// The first of `albums` with the title `title`, which is compared with theirs
-/// trimmed; case matters. None if there is none.
-[[nodiscard]] std::optional<PhotoAlbum> albumTitled(const PhotoAlbums& albums,
-                                                    const QString& title);
-
 /// Up to `most` pictures, drawn from `assets` with equal chances; only those drawn
 /// are read. One that yields no picture is left out and not replaced.
 [[nodiscard]] CardPictures loadPhotoDeck(PhotoFetch& fetch, PhotoAssets assets, std::size_t most);

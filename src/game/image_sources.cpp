@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "platform/trim.h"
 
+#include <algorithm>
 #include <utility>
 
 QString MemoryGame::cardDeck() const
@@ -26,9 +27,15 @@ CardPictures MemoryGame::loadImagesFromBundle() const
     return loadBundleDeck(platform().bundle, cardDeck());
 }
 
-std::optional<PhotoAlbum> MemoryGame::fetchPhotoAlbum(const QString& named) const
+std::optional<PhotoAlbum> MemoryGame::fetchPhotoAlbum(const QString& named, PhotoFetch& fetch)
 {
-    return albumTitled(platform().photos.startFetch()->albums(), trimmedText(named));
+    const std::vector<PhotoAlbum> albums = fetch.albums().list;
+    auto found = std::ranges::find(albums, std::optional(named), &PhotoAlbum::localizedTitle);
+    if (found == albums.end())
+        found = std::ranges::find(albums, named, [](const PhotoAlbum& album) {
+            return trimmedText(album.localizedTitle.value_or(QString()));
+        });
+    return found == albums.end() ? std::nullopt : std::optional(*found);
 }
 
 CardPictures MemoryGame::loadImagesFromPhotoLibrary()
@@ -43,9 +50,10 @@ CardPictures MemoryGame::loadImagesFromPhotoLibrary()
     }
 
     const std::unique_ptr<PhotoFetch> fetch = photos.startFetch();
+    const auto most = static_cast<std::size_t>(pairsPerRound());
     PhotoAssets assets;
     if (const std::optional<QString> title = selectedPhotoAlbumName()) {
-        const std::optional<PhotoAlbum> album = albumTitled(fetch->albums(), *title);
+        const std::optional<PhotoAlbum> album = fetchPhotoAlbum(*title, *fetch);
         if (!album) {
             showLocalizedAlert("iphoto_album_not_found", "iphoto_album_not_found_info");
             return {};
@@ -58,5 +66,5 @@ CardPictures MemoryGame::loadImagesFromPhotoLibrary()
         showLocalizedAlert("iphoto_no_images_found", "iphoto_no_images_found_info");
         return {};
     }
-    return loadPhotoDeck(*fetch, std::move(assets), static_cast<std::size_t>(pairsPerRound()));
+    return loadPhotoDeck(*fetch, std::move(assets), most);
 }

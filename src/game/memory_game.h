@@ -18,6 +18,7 @@
 #include <optional>
 
 class AudioPlayer;
+class PhotoFetch;
 struct PhotoAlbum;
 
 /// The whole state of the game and every operation on it.
@@ -206,8 +207,10 @@ public:
     /// from the whole library. Asks for access where the user was never asked, and
     /// says in an alert why there are none.
     [[nodiscard]] CardPictures loadImagesFromPhotoLibrary();
-    /// The first album with that title, trimmed; case matters.
-    [[nodiscard]] std::optional<PhotoAlbum> fetchPhotoAlbum(const QString& named) const;
+    /// Returns the first album with the title `named`; if there is none, the first with
+    /// that title when trimmed. Case matters. `fetch` is the round's.
+    [[nodiscard]] static std::optional<PhotoAlbum> fetchPhotoAlbum(const QString& named,
+                                                                   PhotoFetch& fetch);
 
     /// Shows a warning with one button after the current turn of the main
     /// thread's event loop; texts are looked up when it shows. No second key, no
