@@ -100,6 +100,7 @@ private:
                       {u"iphoto_access_denied"_s, u"iphoto_not_enough_images"_s});
         photoMessages(u"iPhoto: Gone"_s, authorized,
                       {u"iphoto_album_not_found"_s, u"iphoto_not_enough_images_in_album"_s});
+        photoMessages(u"iPhoto: Gone"_s, limited, {u"iphoto_album_incomplete"_s, {}});
         photoMessages(u"iPhoto"_s, authorized, {u"iphoto_no_images_found"_s, {}});
     }
 
@@ -107,7 +108,8 @@ private:
     {
         const Window shown = window(deck, 4, shortNames, [status](StagePlatform& platform) {
             platform.photos.status.reset();
-            platform.photoAccess.write({status});
+            platform.photoAccess.write({status, "/a folder on a disk that is gone"});
+            QDir().mkpath(platform.home.filePath(u"Pictures"_s));
         });
         qsizetype seen = 0;
         const std::function<void(QMessageBox&)> look = [&](QMessageBox& box) {

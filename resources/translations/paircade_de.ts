@@ -77,6 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Das Fotoalbum wurde nicht gefunden</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Sein Ordner wurde möglicherweise umbenannt, verschoben oder gelöscht. Stelle den Ordner wieder her oder wähle in den Einstellungen ein anderes Deck.</translation></message>
+  <message id="iphoto_album_incomplete"><extracomment>Message, first line: the folder of the chosen album could not be read to its end.</extracomment>
+    <source></source><translation>Das Fotoalbum konnte nicht vollständig gelesen werden.</translation></message>
+  <message id="iphoto_album_incomplete_info"><extracomment>Message, below iphoto_album_incomplete.</extracomment>
+    <source></source><translation>Sein Ordner oder dessen Laufwerk ist möglicherweise gerade nicht erreichbar. Versuche es später noch einmal oder wähle in den Einstellungen ein anderes Deck.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Es wurden keine Fotos gefunden</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>

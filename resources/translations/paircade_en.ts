@@ -77,6 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>The photo album was not found</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Its folder may have been renamed, moved or deleted. Restore the folder or choose another deck in the preferences.</translation></message>
+  <message id="iphoto_album_incomplete"><extracomment>Message, first line: the folder of the chosen album could not be read to its end.</extracomment>
+    <source></source><translation>The album couldn’t be read completely.</translation></message>
+  <message id="iphoto_album_incomplete_info"><extracomment>Message, below iphoto_album_incomplete.</extracomment>
+    <source></source><translation>Its folder or the disk it is on may not be available right now. Try again later, or choose another deck in the preferences.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>No photos were found</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>

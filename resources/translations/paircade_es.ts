@@ -77,6 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>No se encuentra el álbum de fotos</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Puede que su carpeta se haya renombrado, movido o eliminado. Restaura la carpeta o elige otra baraja en las preferencias.</translation></message>
+  <message id="iphoto_album_incomplete"><extracomment>Message, first line: the folder of the chosen album could not be read to its end.</extracomment>
+    <source></source><translation>No se ha podido leer por completo el álbum de fotos.</translation></message>
+  <message id="iphoto_album_incomplete_info"><extracomment>Message, below iphoto_album_incomplete.</extracomment>
+    <source></source><translation>Puede que su carpeta o el disco en el que está no estén disponibles en este momento. Vuelve a intentarlo más tarde o elige otra baraja en las preferencias.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>No se han encontrado fotos</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>

@@ -77,6 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>L’album photo est introuvable</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Son dossier a peut-être été renommé, déplacé ou supprimé. Rétablissez le dossier ou choisissez un autre jeu de cartes dans les préférences.</translation></message>
+  <message id="iphoto_album_incomplete"><extracomment>Message, first line: the folder of the chosen album could not be read to its end.</extracomment>
+    <source></source><translation>L’album photo n’a pas pu être lu entièrement.</translation></message>
+  <message id="iphoto_album_incomplete_info"><extracomment>Message, below iphoto_album_incomplete.</extracomment>
+    <source></source><translation>Son dossier ou le disque qui le contient est peut-être indisponible pour le moment. Réessayez plus tard ou choisissez un autre jeu de cartes dans les préférences.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Aucune photo trouvée</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>

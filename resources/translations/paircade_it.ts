@@ -77,6 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Album fotografico non trovato</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>La sua cartella potrebbe essere stata rinominata, spostata o eliminata. Ripristina la cartella o scegli un altro mazzo nelle preferenze.</translation></message>
+  <message id="iphoto_album_incomplete"><extracomment>Message, first line: the folder of the chosen album could not be read to its end.</extracomment>
+    <source></source><translation>Non è stato possibile leggere per intero l’album fotografico.</translation></message>
+  <message id="iphoto_album_incomplete_info"><extracomment>Message, below iphoto_album_incomplete.</extracomment>
+    <source></source><translation>La sua cartella o il disco su cui si trova potrebbero non essere disponibili al momento. Riprova più tardi o scegli un altro mazzo nelle preferenze.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Nessuna foto trovata</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>

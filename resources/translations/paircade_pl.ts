@@ -77,6 +77,10 @@ SPDX-License-Identifier: GPL-3.0-or-later
     <source></source><translation>Nie znaleziono albumu ze zdjęciami</translation></message>
   <message id="iphoto_album_not_found_info"><extracomment>Message, below iphoto_album_not_found.</extracomment>
     <source></source><translation>Jego folder mógł zmienić nazwę, zostać przeniesiony lub usunięty. Przywróć folder albo wybierz w preferencjach inną talię.</translation></message>
+  <message id="iphoto_album_incomplete"><extracomment>Message, first line: the folder of the chosen album could not be read to its end.</extracomment>
+    <source></source><translation>Nie udało się odczytać całego albumu ze zdjęciami.</translation></message>
+  <message id="iphoto_album_incomplete_info"><extracomment>Message, below iphoto_album_incomplete.</extracomment>
+    <source></source><translation>Jego folder lub dysk, na którym się znajduje, może być teraz niedostępny. Spróbuj ponownie później albo wybierz w preferencjach inną talię.</translation></message>
   <message id="iphoto_no_images_found"><extracomment>Message, first line: the pictures folder or the chosen album holds no photos.</extracomment>
     <source></source><translation>Nie znaleziono zdjęć</translation></message>
   <message id="iphoto_no_images_found_info"><extracomment>Message, below iphoto_no_images_found.</extracomment>

@@ -54,11 +54,16 @@ CardPictures MemoryGame::loadImagesFromPhotoLibrary()
     PhotoAssets assets;
     if (const std::optional<QString> title = selectedPhotoAlbumName()) {
         const std::optional<PhotoAlbum> album = fetchPhotoAlbum(*title, *fetch);
+        if (album)
+            assets = fetch->assets(*album);
+        if (!fetch->isListComplete() && assets.size() < most) {
+            showLocalizedAlert("iphoto_album_incomplete", "iphoto_album_incomplete_info");
+            return {};
+        }
         if (!album) {
             showLocalizedAlert("iphoto_album_not_found", "iphoto_album_not_found_info");
             return {};
         }
-        assets = fetch->assets(*album);
     } else {
         assets = fetch->images();
     }
