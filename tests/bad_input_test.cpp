@@ -55,9 +55,13 @@ private Q_SLOTS:
         });
         row("a folder of results that cannot be entered", untouched, false,
             [=](auto& p) { forbid(folder(p)); });
-        row("results that cannot be read", untouched, false, [=](auto& p) {
-            p.writeHighscoreFile("[]");
+        row("results that cannot be read", 1, false, [=](auto& p) {
+            p.writeHighscoreFile(resultsOf(3, u"Ben"_s));
             forbid(results(p));
+        });
+        row("write-protected results", 4, false, [=](auto& p) {
+            p.writeHighscoreFile(resultsOf(3, u"Ben"_s));
+            forbid(results(p), 0444);
         });
         row("a pipe as results", untouched, false, [=](auto& p) { makePipe(results(p)); });
         row("a device as results", untouched, false,
@@ -106,9 +110,12 @@ private Q_SLOTS:
         QCOMPARE(identity(settingsFile()) == settingsBefore, settingsStay);
         if (results == untouched)
             QVERIFY(identity(window.platform.highscoreFile()) == resultsBefore);
-        else
-            QCOMPARE(int(readHighscores(window.platform.highscoreFile()).entries.value().size()),
-                     results);
+        if (results == untouched)
+            return;
+        // The game can read what it has written.
+        QVERIFY(!window.text(u"bestTimes1"_s).isEmpty());
+        QCOMPARE(int(readHighscores(window.platform.highscoreFile()).entries.value().size()),
+                 results);
     }
 };
 

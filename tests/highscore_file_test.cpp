@@ -60,6 +60,11 @@ private Q_SLOTS:
         // A file that is written anew leaves nothing beside it.
         QVERIFY(writeHighscores(highscoreFile(), {}));
         QCOMPARE(QDir(highscoreFolder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+        // A link to a file stays, and that file is replaced.
+        QVERIFY(QFile::rename(highscoreFile(), m_home.filePath(u"kept"_s)));
+        QVERIFY(QFile::link(m_home.filePath(u"kept"_s), highscoreFile()));
+        QVERIFY(writeHighscores(highscoreFile(), {{}}));
+        QVERIFY(contentsOf(m_home.filePath(u"kept"_s)).contains("playerName"));
     }
 
     void aFileThatTheDiskDoesNotGiveIsNoFaultyOne()

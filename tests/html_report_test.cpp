@@ -36,9 +36,13 @@ private Q_SLOTS:
                               "layout\u00a06 of\u00a06, rounds:\u00a01.</p>"));
         QVERIFY(!page.contains("highscores_")); // every text was found
 
-        // It is made anew; an unreadable file holds no records.
+        // It is made anew, though write-protected; an unreadable file holds no records.
         platform.writeHighscoreFile("[{}]");
-        game.openHighscoresHTML();
+        forbid(report, 0444);
+        {
+            const AsNobody nobody(platform.home.path());
+            game.openHighscoresHTML();
+        }
         page = contentsOf(report);
         QVERIFY(page.contains("<td colspan=\"6\">No results yet</td>"));
         QCOMPARE(platform.openedFiles.paths, QStringList({report, report}));

@@ -3,18 +3,29 @@
 #include "platform/atomic_file.h"
 
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSaveFile>
 #include <cerrno>
+#include <cstdio>
 #include <unistd.h>
 
 std::optional<QString> writeAtomically(const QString& path, const QByteArray& contents,
                                        std::optional<QFileDevice::Permissions> permissions)
 {
-    // A pipe or a device would be gone, a link to one followed. Of folders it knows.
+    if (path.isEmpty())
+        return qt_error_string(ENOENT);
+    // rename() would replace a pipe or device; it refuses a directory itself.
     const QFileInfo target(path);
     if (target.exists() && !target.isFile() && !target.isDir())
         return QSaveFile::tr("Existing file %1 is not writable").arg(path);
-    QSaveFile file(path);
+    // A link to a file stays a link.
+    const QString replacedPath = target.exists() ? target.canonicalFilePath() : path;
+    if (!permissions && target.exists())
+        permissions = target.permissions() | QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+    // QSaveFile refuses a write-protected target, so it writes a new file, to be renamed.
+    const QString newPath =
+        replacedPath + u'.' + QString::number(QRandomGenerator::system()->generate(), 16);
+    QSaveFile file(newPath);
     // Unbuffered: commit() of Qt 6.4 does not notice that its last flush failed, and a
     // full disk would leave the file cut short.
     bool isGood = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
@@ -29,7 +40,11 @@ std::optional<QString> writeAtomically(const QString& path, const QByteArray& co
     // was exceeded. EINVAL and ENOSYS: the file system cannot be asked.
     if (isGood && ::fdatasync(file.handle()) != 0 && errno != EINVAL && errno != ENOSYS)
         return qt_error_string(errno);
-    if (isGood && file.commit())
+    if (!isGood || !file.commit())
+        return file.errorString();
+    if (std::rename(QFile::encodeName(newPath), QFile::encodeName(replacedPath)) == 0)
         return std::nullopt;
-    return file.errorString();
+    const QString failure = qt_error_string(errno);
+    QFile::remove(newPath);
+    return failure;
 }

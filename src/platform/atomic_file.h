@@ -7,12 +7,14 @@
 #include <QString>
 #include <optional>
 
-/// Makes `contents` those of the file `path`, which is replaced in one step:
-/// whoever reads it finds all of the old or all of the new.
+/// Replaces the file `path` by one with `contents`, in one step: a reader finds
+/// all of the old or all of the new.
 ///
-/// None on success. Otherwise the file is as it was, and the answer is the
-/// system's words for what failed. An empty path is a failure. Without
-/// `permissions` the file keeps those it had, or gets the user's default.
+/// None on success. Otherwise the file is as it was, and the result is the
+/// system's description of the error. An empty path is a failure, so is a pipe, a
+/// device or a directory. A write-protected or foreign file is replaced if its
+/// folder allows it. Without `permissions` the new file has those of the old, and
+/// its owner may read and write it; or the user's default.
 [[nodiscard]] std::optional<QString>
 writeAtomically(const QString& path, const QByteArray& contents,
                 std::optional<QFileDevice::Permissions> permissions = std::nullopt);
