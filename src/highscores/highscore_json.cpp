@@ -2,16 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "highscores/highscore_file.h"
 
+#include <QStringDecoder>
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <charconv>
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <variant>
 
-using nlohmann::json;
 using nlohmann::ordered_json;
 
 namespace {
@@ -51,13 +52,56 @@ struct Unusable {};
 /// A value of the file; null is the first.
 using Value = std::variant<std::monostate, Unusable, std::int64_t, const std::string*>;
 
-Value wholeNumber(double number)
+/// The parser refuses a number beyond the range of its type for fractions, even in a
+/// member that no field takes, and a double rounds. So this type has no value: a number
+/// is read from its text.
+struct UnreadNumber {
+    UnreadNumber() = default;
+    UnreadNumber(double number)
+        : ignored(number)
+    {
+    }
+    operator double&() { return ignored; }
+    operator double() const { return 0; } // finite
+
+    double ignored;
+};
+
+using json = nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t,
+                                  std::uint64_t, UnreadNumber>;
+
+/// Returns the value of a JSON number that has a fraction, an exponent or many digits.
+/// Exact: Unusable if it is not an integer of 64 bits.
+Value exactNumber(const std::string& text)
 {
-    // 2^63 is the first double above the range; -2^63 is the last within it.
-    constexpr double limit = 9223372036854775808.0;
-    if (number != std::floor(number) || number < -limit || number >= limit)
+    const std::size_t mantissaSize = std::min(text.find_first_of("eE"), text.size());
+    // The largest exponents that cannot overflow below stand for those beyond them.
+    constexpr long long maxExponent = 1LL << 60;
+    const bool hasExponent = mantissaSize < text.size();
+    long long exponent = hasExponent ? std::strtoll(&text[mantissaSize + 1], nullptr, 10) : 0;
+    exponent = std::clamp(exponent, -maxExponent, maxExponent);
+    std::string digits;
+    for (std::size_t i = 0; i < mantissaSize; ++i) {
+        if (text[i] >= '0' && text[i] <= '9')
+            digits += text[i];
+        else if (i > 0) // the decimal point, in whatever locale
+            exponent -= static_cast<long long>(mantissaSize - i - 1);
+    }
+    digits.erase(0, digits.find_first_not_of('0'));
+    if (digits.empty())
+        return std::int64_t{0};
+    for (; digits.back() == '0'; digits.pop_back())
+        ++exponent;
+    constexpr long long maxDigits = 19;
+    if (exponent < 0 || exponent + std::ssize(digits) > maxDigits)
         return Unusable{};
-    return static_cast<std::int64_t>(number);
+    digits.append(static_cast<std::size_t>(exponent), '0');
+    if (text.front() == '-')
+        digits.insert(0, 1, '-');
+    std::int64_t number = 0;
+    const auto end = digits.data() + digits.size();
+    const bool isWithinRange = std::from_chars(digits.data(), end, number).ec == std::errc();
+    return isWithinRange ? Value(number) : Value(Unusable{});
 }
 
 /// QUuid itself also takes braces and garbage after the last digit.
@@ -74,8 +118,10 @@ bool isUuid(std::string_view text)
 bool take(const Value& value, QString& field)
 {
     const auto* const text = std::get_if<const std::string*>(&value);
+    // QString::fromStdString() would drop a U+FEFF that the text begins with.
+    using Decoder = QStringDecoder;
     if (text != nullptr)
-        field = QString::fromStdString(**text);
+        field = Decoder(Decoder::Utf8, Decoder::Flag::ConvertInitialBom)(**text);
     return text != nullptr;
 }
 
@@ -118,7 +164,7 @@ public:
         const auto signedNumber = static_cast<std::int64_t>(number);
         return value(signedNumber < 0 ? Value(Unusable{}) : Value(signedNumber));
     }
-    bool number_float(double number, const std::string&) { return value(wholeNumber(number)); }
+    bool number_float(UnreadNumber, const std::string& text) { return value(exactNumber(text)); }
     bool string(const std::string& text) { return value(&text); }
     static bool binary(const std::vector<std::uint8_t>&) { return false; } // not in JSON
     bool start_array(std::size_t) { return m_depth++ == 0 || value(Unusable{}, 1); }

@@ -1,23 +1,41 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The reader of the results accepts what a slow and obvious one accepts, which builds
-// the whole tree first; and what it has accepted is, once written, read as it was.
+// the whole tree first, and its numbers from their digits; and what it has accepted is,
+// once written, read as it was.
 #include "fuzz.h"
 #include "highscores/highscore_file.h"
 
 #include <QRegularExpression>
 #include <algorithm>
-#include <cmath>
 #include <nlohmann/json.hpp>
 
 using nlohmann::json;
 
 namespace {
 
+/// A tree would round numbers, so each is an object in it: its text under this key.
+const QByteArray numberKey = QUuid::createUuid().toByteArray();
+
+std::string withNumbersAsObjects(const QByteArray& bytes)
+{
+    static const QRegularExpression stringOrNumber(
+        QStringLiteral(R"("(?:[^"\\]|\\.)*+"|(-?(?:0|[1-9]\d*)(?:\.\d+)?(?:[eE][+-]?\d+)?))"));
+    QByteArray result;
+    qsizetype end = 0;
+    for (const auto& match : stringOrNumber.globalMatch(QString::fromLatin1(bytes))) {
+        result += bytes.sliced(end, match.capturedStart() - end);
+        end = match.capturedEnd();
+        const QByteArray token = match.captured().toLatin1();
+        result += match.hasCaptured(1) ? "{\"" + numberKey + "\":\"" + token + "\"}" : token;
+    }
+    return (result + bytes.sliced(end)).toStdString();
+}
+
 bool read(const json& value, QString& field)
 {
-    if (value.is_string())
-        field = QString::fromStdString(value.get<std::string>());
+    if (value.is_string()) // not at the start, where a U+FEFF would be dropped
+        field = QString::fromStdString('|' + value.get<std::string>()).sliced(1);
     return value.is_string();
 }
 
@@ -33,11 +51,22 @@ bool read(const json& value, QUuid& field)
 
 bool read(const json& value, std::int64_t& field)
 {
-    const double number = value.is_number_float() ? value.get<double>() : 0;
-    if (!value.is_number() || std::trunc(number) != number || number < -0x1p63 || number >= 0x1p63)
+    if (!value.is_object() || !value.contains(numberKey.constData()))
         return false;
-    field = value.get<std::int64_t>();
-    return !value.is_number_unsigned() || field >= 0; // one beyond the range comes out negative
+    static const QRegularExpression form(QStringLiteral(R"((-?)(\d+)\.?(\d*)[eE]?([+-]?\d*))"));
+    const auto parts = form.match(QString::fromStdString(value.at(numberKey.constData())));
+    const QString digits = parts.captured(2) + parts.captured(3);
+    // How many digits are before the point once it is moved.
+    const double point = double(parts.capturedLength(2)) + parts.captured(4).toDouble();
+    const QString whole = digits.left(qsizetype(std::clamp(point, 0.0, double(digits.size()))));
+    const qsizetype zeros = digits.count(u'0') - whole.count(u'0');
+    if (digits.size() - whole.size() > zeros)
+        return false; // a fraction
+    const QString moreZeros(qsizetype(std::clamp(point - double(digits.size()), 0.0, 20.0)), u'0');
+    bool isWithinRange = true;
+    if (whole.count(u'0') < whole.size())
+        field = (parts.captured(1) + whole + moreZeros).toLongLong(&isWithinRange);
+    return isWithinRange;
 }
 
 template <class Field>
@@ -63,7 +92,7 @@ bool read(const json& record, HighscoreEntry& entry)
 
 std::optional<HighscoreEntries> slowlyDecoded(const QByteArray& bytes)
 {
-    const json list = json::parse(bytes.begin(), bytes.end(), nullptr, false);
+    const json list = json::parse(withNumbersAsObjects(bytes), nullptr, false);
     HighscoreEntries entries;
     if (!list.is_array() || bytes.contains('\0') ||
         !std::ranges::all_of(
