@@ -36,26 +36,25 @@ void MemoryGame::openHighscoresHTML()
 QString MemoryGame::buildHighscoresHTML(const HighscoreEntries& entries) const
 {
     const GameFacts current = facts();
-    const QString locale = currentLocaleIdentifier();
-    return buildReport(
-        entries, {.language = locale.left(2),
-                  .title = localizedText("highscores_html_title"),
-                  // The first is a number that no language shows; its place is taken.
-                  .subtitle = localizedText(
-                      "highscores_html_subtitle",
-                      {current.amountCards + 2, current.amountCards, current.amountRounds}),
-                  .generated = localizedText("highscores_html_generated",
-                                             {dateText(QDateTime::currentDateTime(), locale)}),
-                  .playerColumn = localizedText("highscores_html_player"),
-                  .timeColumn = localizedText("highscores_html_time"),
-                  .failuresColumn = localizedText("highscores_html_failures"),
-                  .cardsColumn = localizedText("highscores_html_cards"),
-                  .roundsColumn = localizedText("highscores_html_rounds"),
-                  .modeColumn = localizedText("highscores_html_mode"),
-                  .soloMode = localizedText("highscores_mode_solo"),
-                  .versusMode = localizedText("highscores_mode_versus"),
-                  .secondPlayer = localizedText("player_two"),
-                  .empty = localizedText("highscores_empty")});
+    const QString now = dateText(QDateTime::currentDateTime(), timeLocaleIdentifier());
+    return buildReport(entries,
+                       {.language = currentLocaleIdentifier().left(2),
+                        .title = localizedText("highscores_html_title"),
+                        // The first is a number that no language shows; its place is taken.
+                        .subtitle = localizedText(
+                            "highscores_html_subtitle",
+                            {current.amountCards + 2, current.amountCards, current.amountRounds}),
+                        .generated = localizedText("highscores_html_generated", {now}),
+                        .playerColumn = localizedText("highscores_html_player"),
+                        .timeColumn = localizedText("highscores_html_time"),
+                        .failuresColumn = localizedText("highscores_html_failures"),
+                        .cardsColumn = localizedText("highscores_html_cards"),
+                        .roundsColumn = localizedText("highscores_html_rounds"),
+                        .modeColumn = localizedText("highscores_html_mode"),
+                        .soloMode = localizedText("highscores_mode_solo"),
+                        .versusMode = localizedText("highscores_mode_versus"),
+                        .secondPlayer = localizedText("player_two"),
+                        .empty = localizedText("highscores_empty")});
 }
 
 QString MemoryGame::highscoreFolderURL() const

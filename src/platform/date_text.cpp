@@ -6,13 +6,29 @@
 #include <array>
 #include <unicode/udat.h>
 
+namespace {
+
+/// "C" names no language, neither to ICU nor to a browser.
+QString identifierOf(QString locale)
+{
+    return locale.size() < 2 ? QStringLiteral("en_US_POSIX") : locale.replace(u'-', u'_');
+}
+
+} // namespace
+
 QString currentLocaleIdentifier()
 {
-    const QString language = QLocale::system().uiLanguages().value(0);
-    // "C" names no language, neither to ICU nor to a browser.
-    if (language.size() < 2)
-        return QStringLiteral("en_US_POSIX");
-    return QString(language).replace(u'-', u'_');
+    return identifierOf(QLocale::system().uiLanguages().value(0));
+}
+
+QString timeLocaleIdentifier()
+{
+    // QLocale::system() formats dates for this locale, but does not name it.
+    for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        if (const QString locale = qEnvironmentVariable(variable); !locale.isEmpty())
+            return identifierOf(QLocale(locale).name());
+    }
+    return identifierOf({});
 }
 
 QString dateText(const QDateTime& time, const QString& localeIdentifier)

@@ -10,6 +10,10 @@
 /// speak.
 [[nodiscard]] QString currentLocaleIdentifier();
 
+/// Returns the identifier of the locale in which the user reads dates and times
+/// (`LC_TIME`): "de_DE", "en_US_POSIX" if none is set.
+[[nodiscard]] QString timeLocaleIdentifier();
+
 /// `time` in ICU's medium date and short time style for the locale: 25.11.2026,
 /// 22:46 in "de_DE". An unknown locale gives ICU's root format; never fails, but
 /// an installation of ICU without its data gives an empty text.

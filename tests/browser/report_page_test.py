@@ -13,6 +13,7 @@ import sys
 import tempfile
 import unittest
 import uuid
+from datetime import datetime, timedelta, timezone
 from pathlib import Path
 
 BROWSER, DRIVER = shutil.which("chromium"), shutil.which("chromedriver")
@@ -99,13 +100,14 @@ class ReportPage(unittest.TestCase):
         self.assertEqual(set(asked) - {"about:blank"}, {self.address})
         self.assertIsNone(self.run_script("return window.hacked"))
 
-    def open(self, records, locale="en_US.UTF-8"):
-        """Opens the page of the records."""
+    def open(self, records, language="en_US.UTF-8", time="en_US.UTF-8"):
+        """Opens the page of the records, in a zone of its own."""
         results, page = HOME / "results.json", HOME / "page.html"
         results.write_text(json.dumps(records))
         page.unlink(missing_ok=True)
         subprocess.run([WRITER, results, page], check=True,
-                       env={**os.environ, "LC_ALL": locale, "LANGUAGE": ""})
+                       env={**os.environ, "LC_ALL": "", "LANG": language, "LANGUAGE": "",
+                            "LC_TIME": time, "TZ": "HERE-05:30"})
         html5lib.HTMLParser(strict=True).parse(page.read_bytes())
         self.address = page.as_uri()
         self.driver.get(self.address)
@@ -193,11 +195,19 @@ class ReportPage(unittest.TestCase):
         # The second player of the other has no name.
         self.open([*solo, record("Ben", gameMode="versus", elapsedSeconds=3600, amountCards=9,
                                  amountRounds=10, firstPlayerScore=3, secondPlayerScore=5)],
-                  "de_DE.UTF-8")
+                  "de_DE.UTF-8", "en_GB.UTF-8")
         self.assertEqual(self.each("html", "e.lang"), ["de"])
         self.assertEqual(self.driver.title, "Paircade-Highscores")
-        self.assertRegex(self.driver.find_element(By.CLASS_NAME, "generated").text,
-                         r"^Erstellt am \d\d\.\d\d\.\d{4}, \d\d:\d\d$")
+        text = self.driver.find_element(By.CLASS_NAME, "generated").text
+        generated = datetime.strptime(text + " +0530", "Erstellt am %d %b %Y, %H:%M %z")
+        self.assertLess(abs(datetime.now(timezone.utc) - generated), timedelta(minutes=5))
+        self.assertEqual(self.each("th", "e.textContent"),
+                         ["Spieler", "Zeit", "Fehler /\u00a0Punkte", "Karten", "Runden", "Modus"])
+        filters = self.each("label, option, #reset-filters",
+                            "(e.value ?? '') + '=' + e.firstChild.textContent.trim()")
+        self.assertEqual(filters, (
+            "=Kartenset|=Alle|1=4x3|2=4x4|3=5x4|4=6x4|5=7x4|6=8x5|=Runde|=Alle|1=1|10=10|=Modus|"
+            "=Alle|solo=Single player|versus=1 vs 1|=Filter zurücksetzen").split("|"))
         shown = self.each("tbody tr", "[...e.cells].map(c => c.textContent).join(' ')")
         layouts = f"{-2**63} 4x3 4x4 5x4 6x4 7x4 8x5 7".split()
         self.assertEqual(shown, [f"Ann 01:15 3 {layout} 1 Einzelspiel" for layout in layouts] +
@@ -208,8 +218,15 @@ class ReportPage(unittest.TestCase):
         command = self.driver.execute_cdp_cmd
         self.addCleanup(command, "Emulation.clearDeviceMetricsOverride", {})
         self.addCleanup(command, "Emulation.setEmulatedMedia", {"features": []})
-        command("Emulation.setEmulatedMedia", {"features": [
-            {"name": "prefers-color-scheme", "value": "dark"}]})
+        names = ["--bg", "--surface", "--text", "--muted", "--border", "--accent"]
+        for scheme, expected in {
+                "light": ["#f5f5f7", "#ffffff", "#1d1d1f", "#6e6e73", "#d2d2d7", "#007aff"],
+                "dark": ["#111113", "#1c1c1e", "#f5f5f7", "#a1a1a6", "#3a3a3c", "#0a84ff"]}.items():
+            command("Emulation.setEmulatedMedia", {"features": [
+                {"name": "prefers-color-scheme", "value": scheme}]})
+            self.assertEqual([self.run_script("return getComputedStyle(document.documentElement)"
+                                              ".getPropertyValue(arguments[0]).trim()", name)
+                              for name in names], expected)
         command("Emulation.setDeviceMetricsOverride", {
             "width": 390, "height": 844, "deviceScaleFactor": 1, "mobile": True})
         colours = self.each("body, .table-wrap", "getComputedStyle(e).backgroundColor")
