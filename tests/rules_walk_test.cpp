@@ -188,7 +188,7 @@ private:
 
     void rename()
     {
-        const QString name = oneOf({u""_s, u" \t"_s, u"Ann"_s, u" Ann "_s, u"%2"_s, u"Zoë"_s});
+        const QString name = oneOf({u""_s, u" \t"_s, u"Ann"_s, u" Ann \n B "_s, u"%2"_s, u"Zoë"_s});
         using Set = void (Game::*)(const QString&);
         using Name = QString Rules::*;
         const auto [set, rule, member] = oneOf<std::tuple<Set, Name, Member>>({
@@ -248,6 +248,10 @@ private:
             m_isDealtWell &= !card.image.image.isNull() && !card.isFaceUp && !card.isMatched;
         }
         m_isDealtWell &= pictures.size() == count && pairs.values() == QList<int>(count, 2);
+        // A fair deal has these with a probability of at least 10/11, and of 3/10 (large deck).
+        m_happened[u"parted pair"_s] += m_rules.cards[0].pairID != m_rules.cards[1].pairID;
+        m_happened[u"later picture"_s] +=
+            pictures.contains(u"picture%1"_s.arg(count, 2, 10, QChar(u'0')));
         return true;
     }
 
@@ -291,9 +295,13 @@ private:
         same("playerScores", m_game->playerScores(), m_rules.playerScores);
         same("firstSelectedIndex", m_game->firstSelectedIndex(), m_rules.firstSelectedIndex);
         same("isCheckingPair", m_game->isCheckingPair(), m_rules.isCheckingPair);
-        same("timer", m_game->timer() != nullptr, m_rules.timer);
+        const QTimer* const clock = m_game->timer();
+        same("timer", clock && clock->isActive() ? clock->interval() : 0, m_rules.timer ? 1000 : 0);
         same("timerStarted", m_game->timerStarted(), m_rules.timerStarted);
-        same("delayed steps", int(waitingTimers().size()), int(m_rules.delayed.has_value()));
+        QList<int> delays;
+        for (const QTimer* const timer : waitingTimers())
+            delays << timer->interval();
+        same("delays", delays, QList<int>(m_rules.delayed.has_value(), 1000));
         same("alerts", m_platform.alertLog.shown, m_rules.alerts);
         same("canRestoreHighscores", m_game->canRestoreHighscores(), !m_rules.removed.empty());
         same("the grid", m_game->cardColumns() * m_game->cardRows(), 2 * m_rules.pairsPerRound());
@@ -358,9 +366,10 @@ private Q_SLOTS:
             seed = QRandomGenerator::global()->generate();
         }
         qInfo() << happened << walks * stepsOfAWalk << "steps";
-        // Otherwise it would prove little.
-        for (const auto& what : {u"won alone"_s, u"won by two"_s, u"another round"_s,
-                                 u"no further round"_s, u"not started"_s})
+        // Otherwise it would prove little. Over 100 boards chance misses none of these.
+        for (const auto& what :
+             {u"won alone"_s, u"won by two"_s, u"another round"_s, u"no further round"_s,
+              u"not started"_s, u"parted pair"_s, u"later picture"_s})
             QVERIFY2(happened[what] > 0, qPrintable(what));
     }
 };

@@ -153,7 +153,7 @@ SPDX-License-Identifier: GPL-3.0-or-later
   <!-- Highscore page in the browser -->
   <message id="highscores_html_title"><extracomment>Title and main heading of the page.</extracomment>
     <source></source><translation>Paircade Highscores</translation></message>
-  <message id="highscores_html_subtitle"><extracomment>Below the heading. %1: internal number, left out on purpose; %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
+  <message id="highscores_html_subtitle"><extracomment>Below the heading. The first argument, an internal number, is left out on purpose. %2: card layout, 1 to 6; %3: rounds per game.</extracomment>
     <source></source><translation>Every stored result. Current settings: layout&#xa0;%2 of&#xa0;6, rounds:&#xa0;%3.</translation></message>
   <message id="highscores_html_generated"><extracomment>Below the subtitle. %1: date and time of the page.</extracomment>
     <source></source><translation>Generated on %1</translation></message>
