@@ -124,7 +124,7 @@ private:
     const QString m_folder =
         ApplicationBundle::ofRunningProgram().resourceFolder().value() + u"/translations"_s;
     std::map<QString, QMap<QString, QStringList>> m_texts{}; ///< by language, by id
-    QMap<QString, QString> m_places{};                       ///< by id
+    QMap<QString, QStringList> m_places{};                   ///< by id
 };
 
 QTEST_GUILESS_MAIN(TextsTest)
