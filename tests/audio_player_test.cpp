@@ -5,6 +5,7 @@
 
 #include <QDataStream>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QLocalServer>
 #include <QThread>
 #include <cmath>
@@ -32,24 +33,43 @@ struct Performance : Run {
     double slowestCall = lines.takeLast().toDouble();
 };
 
-/// The child's part: each argument is a number of milliseconds to wait, "prepare", or a file.
-/// First may stand "hasty", for a player that soon closes a device with nothing to play.
+/// The child's part. Each step of `script` is a number of milliseconds to wait, "prepare",
+/// "silence", "report", "answer" or a file. The first step may be "hasty", which closes an
+/// idle device early, or a path at which a sound server hangs until "answer".
 int perform(const QStringList& script)
 {
-    const bool isHasty = script.startsWith(u"hasty"_s);
+    const bool isHasty = script.value(0) == u"hasty"_s;
+    QLocalServer server; // the system accepts connections for it
+    if (script.value(0).endsWith(u"server"_s)) {
+        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(script[0]));
+        if (!server.listen(script[0]))
+            return 1;
+    }
     std::optional<AudioPlayer> player(std::in_place, isHasty ? 500ms : AudioPlayer::idleTime);
     QElapsedTimer clock;
     qint64 slowest = 0;
-    for (const QString& step : script.mid(isHasty ? 1 : 0)) {
+    for (const QString& step : script.mid(isHasty || server.isListening() ? 1 : 0)) {
         QThread::msleep(step.toULong()); // of what is no number nothing
         clock.start();
         if (step == u"prepare"_s)
             player->prepare();
+        else if (step == u"silence"_s)
+            player->silenceWaiting();
+        else if (step == u"report"_s)
+            player->report([] {
+                QThread::msleep(50); // in which an older sound would be heard
+                std::puts("report");
+            });
+        else if (step == u"answer"_s)
+            server.close();
         else if (step.toULong() == 0)
-            player->play(step, 1,
-                         [](const QString& text) { std::printf("%s\n", qPrintable(text)); });
+            player->play(step, 1, [step](const QString& text) {
+                std::printf("%s: %s\n", qPrintable(QFileInfo(step).fileName()), qPrintable(text));
+            });
         slowest = std::max(slowest, clock.nsecsElapsed());
     }
+    if (server.isListening() && !server.waitForNewConnection(0))
+        return 1; // SDL does not know PulseAudio
     clock.start();
     player.reset();
     std::printf("%g\n%g\n", double(slowest) / 1e6, double(clock.nsecsElapsed()) / 1e6);
@@ -163,22 +183,43 @@ private Q_SLOTS:
 
     void neverWaitsForASoundServer()
     {
-        // The system accepts for a server that never looks at its connections.
-        QLocalServer server;
-        QVERIFY(server.listen(path("server")));
-        qputenv("PULSE_SERVER", "unix:" + QFile::encodeName(path("server")));
-        const Performance run =
-            listen({u"prepare"_s, path("missing.mp3"), m_tone, u"500"_s}, u"pulseaudio"_s);
-        QVERIFY2(server.waitForNewConnection(0), "SDL found no PulseAudio to ask");
-        QCOMPARE(run.lines, QByteArrayList()); // so the thread is still waiting
+        const Performance run = listen(
+            {path("server"), u"prepare"_s, path("missing.mp3"), u"report"_s, m_tone, u"500"_s},
+            u"pulseaudio"_s);
+        QCOMPARE(run.lines, {"report"}); // at the end, without the thread, which hangs
         QVERIFY2(run.slowestCall < 100, qPrintable(QString::number(run.slowestCall)));
         QVERIFY2(run.farewell < 2000, qPrintable(QString::number(run.farewell)));
     }
 
+    void onlyTheNewestSoundThatWaitsIsPlayed()
+    {
+        const auto hear = [this](const QStringList& waiting) {
+            const QStringList answer{u"answer"_s, u"1000"_s};
+            return listen(QStringList{path("server"), u"prepare"_s} + waiting + answer,
+                          u"pulseaudio,disk"_s);
+        };
+        const auto peak = [](const Run& run) {
+            return run.heard.empty() ? -1 : std::abs(*std::ranges::max_element(run.heard));
+        };
+        const Performance last =
+            hear({path("missing.mp3"), m_flat, u"report"_s, m_tone, m_home.path(), u"report"_s});
+        QCOMPARE(last.lines.size(), 4);
+        QVERIFY(last.lines[0].startsWith("missing.mp3: "));
+        QCOMPARE(last.lines[1], "report");
+        QVERIFY(last.lines[2].startsWith(QFileInfo(m_home.path()).fileName().toUtf8() + ": "));
+        QCOMPARE(last.lines[3], "report");
+        QVERIFY(std::abs(peak(last) - tonePeak) < 100);
+
+        const Performance none = hear({m_flat, path("missing.mp3"), u"silence"_s});
+        QCOMPARE(none.lines.size(), 1);
+        QCOMPARE(peak(none), 0); // opened, and silent
+    }
+
     void withoutADeviceFilesAreStillChecked()
     {
+        // The last ones when the player already ends.
         const Performance run =
-            listen({path("missing.mp3"), m_tone, m_home.path(), u"500"_s}, u"nosuchdriver"_s);
+            listen({path("missing.mp3"), m_tone, m_home.path()}, u"nosuchdriver"_s);
         QCOMPARE(run.lines.size(), 2);
         QVERIFY2(run.slowestCall < 100, qPrintable(QString::number(run.slowestCall)));
     }

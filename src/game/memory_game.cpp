@@ -13,6 +13,10 @@ MemoryGame::MemoryGame()
 {
     m_headerText = localizedText("enter_name");
     reloadHighscoresForCurrentSettings();
+    connect(&platform().defaults, &UserDefaults::written, this, [](const QString& key) {
+        if (key == SettingsKeys::PlaySounds)
+            followSoundSetting();
+    });
 }
 
 MemoryGame::~MemoryGame()

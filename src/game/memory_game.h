@@ -155,8 +155,9 @@ public:
     [[nodiscard]] const QTimer* timer() const { return m_timer.get(); }
     /// Whether the current game's first card was turned.
     [[nodiscard]] bool timerStarted() const { return m_timerStarted; }
-    /// The player of the sound that was asked for last; none before the first.
-    [[nodiscard]] const AudioPlayer* audioPlayer() const { return m_audioPlayer; }
+    /// Returns the player, which keeps the sound that was loaded last; null before
+    /// the first.
+    [[nodiscard]] const AudioPlayer* audioPlayer() const;
 
     // Course of the game.
     /// Starts a game of the current mode, unless a name is missing: then only
@@ -238,7 +239,7 @@ private:
     void setMatched(std::size_t position);
     void markFinished();
     void stopTimer();
-    void playSound(const QString& name);
+    static void followSoundSetting();
 
     [[nodiscard]] QString highscoreFolderURL() const;
     [[nodiscard]] QString highscoreFileURL() const;
@@ -273,7 +274,6 @@ private:
     bool m_isCheckingPair = false; ///< A missed pair lies open: taps are ignored.
     std::optional<MainQueue::Ticket> m_pendingTurnBack{};
     std::unique_ptr<QTimer> m_timer{};
-    bool m_timerStarted = false; ///< The clock was started in the current game.
-    AudioPlayer* m_audioPlayer = nullptr;
+    bool m_timerStarted = false;         ///< The clock was started in the current game.
     HighscoreEntries m_removedEntries{}; ///< What resets have removed.
 };

@@ -6,7 +6,6 @@
 #include "game/memory_game.h"
 #include "game/rules/shuffle.h"
 #include "platform/alerts.h"
-#include "platform/audio_player.h"
 #include "platform/localized_text.h"
 #include "platform/platform.h"
 #include "platform/trim.h"
@@ -43,8 +42,8 @@ void MemoryGame::startNewGame()
     loadRound(currentRound());
 
     // Opening the device may take its time; the first card is turned later.
-    if (isGameActive() && platform().defaults.integer(SettingsKeys::PlaySounds) == 1)
-        platform().audio.prepare();
+    if (isGameActive())
+        followSoundSetting();
 }
 
 void MemoryGame::loadRound(std::int64_t round)

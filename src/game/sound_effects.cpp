@@ -15,47 +15,55 @@
 
 void MemoryGame::playCardFlipSound()
 {
-    playSound(QStringLiteral("card_flip"));
+    playSoundEffect(QStringLiteral("card_flip"));
 }
 
 void MemoryGame::playCardDoneSound()
 {
-    playSound(QStringLiteral("card_done"));
+    playSoundEffect(QStringLiteral("card_done"));
 }
 
 void MemoryGame::playCardResetSound()
 {
-    playSound(QStringLiteral("card_reset"));
+    playSoundEffect(QStringLiteral("card_reset"));
 }
 
 void MemoryGame::playDoneSound()
 {
-    playSound(QStringLiteral("done"));
+    playSoundEffect(QStringLiteral("done"));
 }
 
-void MemoryGame::playSound(const QString& name)
+const AudioPlayer* MemoryGame::audioPlayer() const
 {
-    if (AudioPlayer* const player = playSoundEffect(name))
-        m_audioPlayer = player;
+    const AudioPlayer& player = platform().audio;
+    return player.loadedFile().isEmpty() ? nullptr : &player;
 }
 
-AudioPlayer* playSoundEffect(const QString& name)
+void MemoryGame::followSoundSetting()
+{
+    if (platform().defaults.integer(SettingsKeys::PlaySounds) == 1)
+        platform().audio.prepare();
+    else
+        platform().audio.silenceWaiting();
+}
+
+void playSoundEffect(const QString& name)
 {
     if (platform().defaults.integer(SettingsKeys::PlaySounds) != 1)
-        return nullptr;
+        return;
     const QString resource = QStringLiteral("Sounds/") + name + QStringLiteral(".mp3");
     const auto file =
         platform().bundle.resource(name, QStringLiteral("mp3"), QStringLiteral("Sounds"));
     if (!file) {
-        logLine(QStringLiteral("Sounddatei ") + resource + QStringLiteral(" nicht gefunden"));
-        return nullptr;
+        platform().audio.report([resource] {
+            logLine(QStringLiteral("Sounddatei ") + resource + QStringLiteral(" nicht gefunden"));
+        });
+        return;
     }
     const double percent = platform().defaults.floating(SettingsKeys::VolumeSound);
-    AudioPlayer& player = platform().audio;
-    player.play(*file, std::clamp(percent / 100.0, 0.0, 1.0),
-                [resource](const QString& description) {
-                    logLine(QStringLiteral("Fehler beim Abspielen von ") + resource +
-                            QStringLiteral(": ") + description);
-                });
-    return &player;
+    platform().audio.play(*file, std::clamp(percent / 100.0, 0.0, 1.0),
+                          [resource](const QString& description) {
+                              logLine(QStringLiteral("Fehler beim Abspielen von ") + resource +
+                                      QStringLiteral(": ") + description);
+                          });
 }

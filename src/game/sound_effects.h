@@ -4,9 +4,7 @@
 
 #include <QString>
 
-class AudioPlayer;
-
 /// Plays the sound `name` of the game at the volume of the settings, unless they
-/// switch sounds off. One that cannot be had is skipped with a line in the debug
-/// log. Returns the player that was asked to play; null if none was.
-AudioPlayer* playSoundEffect(const QString& name);
+/// switch sounds off. A sound that is missing or does not load is skipped with a
+/// line in the debug log; the lines keep the order of the calls.
+void playSoundEffect(const QString& name);

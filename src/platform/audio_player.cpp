@@ -11,6 +11,7 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <optional>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -31,12 +32,15 @@ QString modulePath()
 
 } // namespace
 
-/// The player's thread and what it works on; shared with it, so that a thread
-/// that does not come back outlives the player without harm.
+/// The playback thread and its requests. The thread shares it, so that a thread
+/// that is left behind may outlive the player.
 class AudioPlayer::Performer {
 public:
-    struct Sound {
-        QString file{}; ///< empty: only open the device
+    enum class Action { openDevice, play, report, silence };
+
+    struct Request {
+        Action action = Action::openDevice;
+        QString file{};
         double volume = 0;
         Failure failure{};
     };
@@ -46,20 +50,28 @@ public:
     {
     }
 
-    static void request(const std::shared_ptr<Performer>& performer, Sound sound)
+    static void request(const std::shared_ptr<Performer>& performer, Request request)
     {
         const std::scoped_lock lock(performer->m_mutex);
-        performer->m_requests.push_back(std::move(sound));
+        if (request.action == Action::silence && !performer->m_thread.joinable())
+            return;
+        performer->m_requests.push_back(std::move(request));
         try {
             if (!performer->m_thread.joinable())
                 performer->m_thread = std::thread([performer] { performer->run(); });
         } catch (const std::system_error& error) { // a system full of threads stays silent
-            const Sound lost = std::move(performer->m_requests.back());
+            const Request lost = std::move(performer->m_requests.back());
             performer->m_requests.clear();
             if (lost.failure)
                 lost.failure(QString::fromLocal8Bit(error.what()));
         }
         performer->m_changed.notify_all();
+    }
+
+    [[nodiscard]] QString loadedFile()
+    {
+        const std::scoped_lock lock(m_mutex);
+        return m_loadedFile;
     }
 
     void stop()
@@ -69,36 +81,45 @@ public:
             return;
         m_isStopping = true;
         m_changed.notify_all();
-        const bool ended = m_changed.wait_for(lock, goodbye, [this] { return m_hasEnded; });
+        // The thread wakes this up after every request, so the timeout is one without progress.
+        while (!m_hasEnded && m_changed.wait_for(lock, goodbye) == std::cv_status::no_timeout) {
+        }
+        const bool hasEnded = m_hasEnded;
+        const std::deque<Request> left = std::exchange(m_requests, {});
         lock.unlock();
-        if (ended)
+        if (hasEnded) {
             m_thread.join();
-        else
-            m_thread.detach();
+            return;
+        }
+        m_thread.detach();
+        for (const Request& request : left) {
+            if (request.action == Action::report)
+                request.failure({});
+        }
     }
 
 private:
     void run()
     {
-        std::unique_lock lock(m_mutex);
-        while (awaitRequest(lock)) {
-            const Sound sound = std::move(m_requests.front());
-            m_requests.pop_front();
-            lock.unlock();
-            perform(sound);
-            lock.lock();
+        while (const std::optional<Request> request = nextRequest()) {
+            perform(*request);
+            std::chrono::milliseconds length{};
+            if (m_loadedVolume && isNewest())
+                length = m_device->start(*std::exchange(m_loadedVolume, {}));
+            m_silentFrom = std::max(m_silentFrom, Clock::now() + length);
         }
-        lock.unlock();
         m_device.reset();
-        lock.lock();
+        const std::scoped_lock lock(m_mutex);
         m_hasEnded = true;
         m_changed.notify_all();
     }
 
-    /// Waits for the next request, and closes the device if that takes long.
-    /// False once the player ends.
-    bool awaitRequest(std::unique_lock<std::mutex>& lock)
+    /// Waits for the next request; closes the device if that takes long. None once the
+    /// player ends and every request was performed.
+    std::optional<Request> nextRequest()
     {
+        std::unique_lock lock(m_mutex);
+        m_changed.notify_all(); // for stop()
         const auto isCalled = [this] { return m_isStopping || !m_requests.empty(); };
         if (m_device && !m_changed.wait_until(lock, m_silentFrom + m_closesAfter, isCalled)) {
             lock.unlock();
@@ -106,27 +127,58 @@ private:
             lock.lock();
         }
         m_changed.wait(lock, isCalled);
-        return !m_isStopping;
+        if (m_requests.empty())
+            return std::nullopt;
+        std::optional<Request> next(std::move(m_requests.front()));
+        m_requests.pop_front();
+        return next;
     }
 
-    void perform(const Sound& sound)
+    /// True if no later request is waiting.
+    bool isNewest()
     {
-        QString failure;
-        if (!m_device)
-            failure = openDevice();
-        SoundDevice::Start start;
-        if (m_device && !sound.file.isEmpty()) {
-            start = m_device->play(QFile::encodeName(sound.file).toStdString(), sound.volume);
-            failure = QString::fromStdString(start.failure);
-        }
-        m_silentFrom = std::max(m_silentFrom, Clock::now() + start.length);
-        if (!failure.isEmpty() && sound.failure)
-            sound.failure(failure);
+        const std::scoped_lock lock(m_mutex);
+        return m_requests.empty() && !m_isStopping;
     }
 
-    /// Says what went wrong, if the installation is not whole.
+    void perform(const Request& request)
+    {
+        switch (request.action) {
+        case Action::openDevice:
+            (void)openDevice();
+            break;
+        case Action::play:
+            if (const std::optional<QString> error = load(request))
+                request.failure(*error);
+            break;
+        case Action::report:
+            request.failure({});
+            break;
+        case Action::silence:
+            m_loadedVolume.reset();
+            break;
+        }
+    }
+
+    /// Returns the error if the sound does not load; none if it does.
+    std::optional<QString> load(const Request& request)
+    {
+        if (QString error = openDevice(); !m_device)
+            return error;
+        if (const auto error = m_device->load(QFile::encodeName(request.file).toStdString()))
+            return QString::fromStdString(*error);
+        m_loadedVolume = request.volume;
+        const std::scoped_lock lock(m_mutex);
+        m_loadedFile = request.file;
+        return std::nullopt;
+    }
+
+    /// Opens the device unless it is open. If its module is missing, there is no device
+    /// afterwards; returns the error then.
     QString openDevice()
     {
+        if (m_device)
+            return {};
         QLibrary module(m_modulePath);
         // Its threads may outlive the player.
         module.setLoadHints(QLibrary::PreventUnloadHint);
@@ -139,13 +191,16 @@ private:
 
     std::mutex m_mutex{};
     std::condition_variable m_changed{};
-    std::deque<Sound> m_requests{};
+    std::deque<Request> m_requests{};
+    QString m_loadedFile{};
     bool m_isStopping = false;
     bool m_hasEnded = false;
     std::thread m_thread{};
     const std::chrono::milliseconds m_closesAfter;
     const QString m_modulePath = modulePath();
-    std::unique_ptr<SoundDevice> m_device{}; // used by the player's thread only, as is what follows
+    // The members below are used by the playback thread only.
+    std::unique_ptr<SoundDevice> m_device{};
+    std::optional<double> m_loadedVolume{}; ///< Of a sound that is loaded, but not started.
     Clock::time_point m_silentFrom{};
 };
 
@@ -161,10 +216,27 @@ AudioPlayer::~AudioPlayer()
 
 void AudioPlayer::prepare()
 {
-    Performer::request(m_performer, {});
+    Performer::request(m_performer, {.action = Performer::Action::openDevice});
 }
 
 void AudioPlayer::play(const QString& file, double volume, Failure failure)
 {
-    Performer::request(m_performer, {file, volume, std::move(failure)});
+    Performer::request(m_performer, {Performer::Action::play, file, volume, std::move(failure)});
+}
+
+void AudioPlayer::report(std::function<void()> task)
+{
+    Performer::request(m_performer,
+                       {.action = Performer::Action::report,
+                        .failure = [task = std::move(task)](const QString&) { task(); }});
+}
+
+void AudioPlayer::silenceWaiting()
+{
+    Performer::request(m_performer, {.action = Performer::Action::silence});
+}
+
+QString AudioPlayer::loadedFile() const
+{
+    return m_performer->loadedFile();
 }

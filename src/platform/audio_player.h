@@ -9,14 +9,17 @@
 
 /// Plays short sounds, one at a time.
 ///
-/// Nothing here waits: opening the device (a sound server that never answers
-/// costs half a minute), loading and playing happen in order on a thread of the
-/// player's own. Where no device opens, files are still checked, silently. A
-/// device that has nothing to play is closed, and opened again by the next call.
+/// No call waits: opening the device (30 s if a sound server never answers), loading
+/// and playing happen in order on a playback thread. Of the sounds that wait for the
+/// device, only the newest that loads is played. If no device opens, files are still
+/// checked, silently. An idle device is closed, and opened again by the next call.
+///
+/// The destructor completes the waiting requests without playing them. If the device
+/// hangs, it only calls the reports.
 class AudioPlayer {
 public:
-    /// Called with the words for what went wrong, on the player's thread, or on the
-    /// caller's if there is none to be had.
+    /// Called with a description of the error, on the playback thread, or on the
+    /// caller's if the system has no thread left.
     using Failure = std::function<void(const QString& description)>;
 
     /// How long an open device may have nothing to play; it costs processor time all
@@ -40,6 +43,16 @@ public:
     /// A file that does not load is reported to `failure`; the earlier sound
     /// then plays on.
     void play(const QString& file, double volume, Failure failure);
+
+    /// Calls `task` on the thread of a Failure after the sounds requested before it were
+    /// loaded, so that log lines keep the order of the calls.
+    void report(std::function<void()> task);
+
+    /// Discards the sounds that are not playing yet; their files are still checked.
+    void silenceWaiting();
+
+    /// Returns the file that was loaded last; empty before the first.
+    [[nodiscard]] QString loadedFile() const;
 
 private:
     class Performer;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 /// An open sound device, which plays one sound at a time. Used by one thread.
@@ -11,20 +12,19 @@
 /// behind it would make the program's start longer by a third.
 class SoundDevice {
 public:
-    struct Start {
-        std::chrono::milliseconds length{}; ///< How long the sound plays.
-        std::string failure{};              ///< Why it does not; empty if it does.
-    };
-
     SoundDevice() = default;
     /// Closes the device at once, whatever plays.
     virtual ~SoundDevice() = default;
     SoundDevice(const SoundDevice&) = delete;
     SoundDevice& operator=(const SoundDevice&) = delete;
 
-    /// Starts the file at `path` at `volume` (0 to 1), which cuts off the sound
-    /// before it. If the file does not load, that sound plays on.
-    [[nodiscard]] virtual Start play(const std::string& path, double volume) = 0;
+    /// Loads the file at `path` instead of one that was loaded but not started. Returns
+    /// the error if that fails, which changes nothing; none if it succeeds.
+    [[nodiscard]] virtual std::optional<std::string> load(const std::string& path) = 0;
+
+    /// Starts the sound loaded last at `volume` (0 to 1), which cuts off the sound before
+    /// it. Returns its length. Called at most once for each sound that was loaded.
+    [[nodiscard]] virtual std::chrono::milliseconds start(double volume) = 0;
 };
 
 /// What the module offers under the name `openSoundDevice`: a device that the

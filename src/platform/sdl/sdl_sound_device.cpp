@@ -10,6 +10,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace {
 
@@ -76,6 +77,7 @@ public:
     {
         for (int number = 0; number < int(m_channels.size()); ++number)
             release(number);
+        Mix_FreeChunk(m_loaded);
         Mix_CloseAudio();
         SDL_QuitSubSystem(SDL_INIT_AUDIO);
         // SDL clears what it keeps of a thread for threads of its own only.
@@ -85,25 +87,32 @@ public:
     SdlSoundDevice(const SdlSoundDevice&) = delete;
     SdlSoundDevice& operator=(const SdlSoundDevice&) = delete;
 
-    Start play(const std::string& path, double volume) override
+    std::optional<std::string> load(const std::string& path) override
     {
         // Closed here: a file of unknown kind is not closed by SDL_mixer 2.6.
         SDL_RWops* const file = SDL_RWFromFile(path.c_str(), "rb");
         Mix_Chunk* const chunk = file == nullptr ? nullptr : Mix_LoadWAV_RW(file, 0);
         if (chunk == nullptr) {
-            Start none{.failure = Mix_GetError()};
+            std::string error = Mix_GetError();
             closeFile(file);
-            return none;
+            return error;
         }
         closeFile(file);
+        Mix_FreeChunk(std::exchange(m_loaded, chunk));
+        return std::nullopt;
+    }
+
+    std::chrono::milliseconds start(double volume) override
+    {
         Mix_RegisterEffect(m_current, fadeOut, nullptr, &m_channels[std::size_t(m_current)]);
         m_current = (m_current + 1) % int(m_channels.size());
         release(m_current);
+        Mix_Chunk* const chunk = std::exchange(m_loaded, nullptr);
         m_channels[std::size_t(m_current)].chunk = chunk;
         Mix_Volume(m_current, static_cast<int>(std::lround(volume * MIX_MAX_VOLUME)));
         Mix_PlayChannel(m_current, chunk, 0);
         constexpr unsigned bytesPerSecond = sampleRate * frameBytes;
-        return {.length = std::chrono::milliseconds(1000ULL * chunk->alen / bytesPerSecond)};
+        return std::chrono::milliseconds(1000ULL * chunk->alen / bytesPerSecond);
     }
 
 private:
@@ -118,6 +127,7 @@ private:
 
     std::array<Channel, 4> m_channels{};
     int m_current = 0;
+    Mix_Chunk* m_loaded = nullptr; ///< Not started yet.
 };
 
 } // namespace

@@ -7,7 +7,6 @@
 #include "game/memory_game.h"
 #include "game/rules/card_layout.h"
 #include "game/sound_effects.h"
-#include "platform/audio_player.h"
 #include "platform/localized_text.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"
@@ -220,10 +219,6 @@ void Preferences::connectControls()
     connectPhotoControls();
     keepStored(m_ui->playSounds, SettingsKeys::PlaySounds);
     keepStored(m_ui->launchInFullscreen, SettingsKeys::LaunchInFullscreen);
-    connect(m_ui->playSounds, &QCheckBox::toggled, this, [](bool isChecked) {
-        if (isChecked)
-            platform().audio.prepare();
-    });
 
     // A drag ends with the release of the slider; a key, the wheel or a screen
     // reader changes it without one.
