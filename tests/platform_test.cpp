@@ -130,8 +130,12 @@ private Q_SLOTS:
         for (const auto& [before, after] : files) {
             writeFile(m_file, "[General]\n" + before);
             UserDefaults defaults(m_file);
+            QByteArray firstWrite;
+            connect(&defaults, &UserDefaults::written, this,
+                    [&] { firstWrite = firstWrite.isEmpty() ? contentsOf(m_file) : firstWrite; });
             createDefaultSettings(defaults);
             QCOMPARE(contentsOf(m_file), "[General]\n" + after);
+            QCOMPARE(firstWrite, contentsOf(m_file)); // and the only one
         }
     }
 

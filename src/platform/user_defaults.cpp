@@ -91,12 +91,12 @@ std::optional<QString> UserDefaults::string(QLatin1String key) const
 
 void UserDefaults::setInteger(QLatin1String key, std::int64_t value)
 {
-    write(key, QVariant(static_cast<qlonglong>(value)));
+    setAll({{QString(key), static_cast<qlonglong>(value)}});
 }
 
 void UserDefaults::setString(QLatin1String key, const QString& value)
 {
-    write(key, value);
+    setAll({{QString(key), value}});
 }
 
 void UserDefaults::reread()
@@ -108,17 +108,20 @@ void UserDefaults::reread()
     m_values.insert(m_unsaved);
 }
 
-void UserDefaults::write(QLatin1String key, const QVariant& value)
+void UserDefaults::setAll(const QVariantMap& values)
 {
-    m_values.insert(QString(key), value);
-    m_unsaved.insert(QString(key), value);
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        m_values.insert(value.key(), value.value());
+        m_unsaved.insert(value.key(), value.value());
+    }
     if (canBeLocked() && hasRoom()) {
         for (auto unsaved = m_unsaved.cbegin(); unsaved != m_unsaved.cend(); ++unsaved)
             m_store.setValue(unsaved.key(), unsaved.value());
         m_unsaved.clear();
         m_store.sync();
     }
-    Q_EMIT written(QString(key));
+    for (const QString& key : values.keys())
+        Q_EMIT written(key);
 }
 
 /// Whether the lock that QSettings takes for a write can be had: it would wait without

@@ -40,16 +40,19 @@ public:
     void setInteger(QLatin1String key, std::int64_t value);
     void setString(QLatin1String key, const QString& value);
 
+    /// Stores all of `values`, integers and texts, with one write of the file.
+    void setAll(const QVariantMap& values);
+
     /// Takes over what other programs have written into the file since.
     void reread();
 
 Q_SIGNALS:
-    /// A value was written under `key` by this process, equal to the old or not.
+    /// Emitted for each key that this process wrote, after all values of the write are
+    /// readable. The value may equal the old one.
     void written(const QString& key);
 
 private:
     [[nodiscard]] QVariant value(QLatin1String key) const { return m_values.value(QString(key)); }
-    void write(QLatin1String key, const QVariant& value);
     [[nodiscard]] bool canBeLocked() const;
     [[nodiscard]] bool hasRoom() const;
 

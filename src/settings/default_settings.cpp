@@ -24,10 +24,13 @@ constexpr std::array<std::pair<QLatin1String, int>, 7> integerDefaults{{
 
 void createDefaultSettings(UserDefaults& defaults)
 {
+    QVariantMap missing;
     for (const auto& [key, value] : integerDefaults) {
         if (!defaults.contains(key))
-            defaults.setInteger(key, value);
+            missing.insert(QString(key), value);
     }
     if (!defaults.contains(SettingsKeys::CardDeck))
-        defaults.setString(SettingsKeys::CardDeck, QStringLiteral("Cyberpunk"));
+        missing.insert(QString(SettingsKeys::CardDeck), QStringLiteral("Cyberpunk"));
+    if (!missing.isEmpty())
+        defaults.setAll(missing);
 }

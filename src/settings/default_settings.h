@@ -4,6 +4,6 @@
 
 class UserDefaults;
 
-/// Stores the default of every setting that is missing. A value that is there,
+/// Stores the default of every setting that is missing, with one write. A stored value,
 /// of whatever type or range, is never overwritten.
 void createDefaultSettings(UserDefaults& defaults);
