@@ -197,7 +197,6 @@ private Q_SLOTS:
         QCOMPARE(stored("VolumeSound"), "0"_ba);
         window.wheel(volume, 1);
         QCOMPARE(stored("VolumeSound"), "10"_ba);
-        QVERIFY(!QFile::exists(recording)); // off: the device is not even opened
 
         window.click(u"playSounds"_s);
         QTRY_VERIFY(QFile::exists(recording));
