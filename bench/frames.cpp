@@ -7,6 +7,7 @@
 #include "stage/game_window.h"
 #include "ui/frame_clock.h"
 #include "ui/game_board.h"
+#include "ui/transition.h"
 #include "vector_board.h"
 
 namespace {
@@ -70,7 +71,10 @@ void turnOnVectorBoard(VectorBoard& board, std::size_t first, std::size_t second
     const CardLook front = cardLook(true, false, false);
     for (int i = 1; i < framesPerTurn; i += vectorFrameStep) {
         const double share = easeInOut(i * frameSeconds / cardTurnSeconds);
-        board.cards[first].look = board.cards[second].look = mix(back, front, share);
+        CardLook look;
+        for (const auto value : cardLookValues)
+            look.*value = mix(back.*value, front.*value, share);
+        board.cards[first].look = board.cards[second].look = look;
         board.update();
         measureFrame(board, watch, frames);
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "ui/transition.h"
+#include <array>
 
 /// What of a card is seen at a moment; every number can lie between two states.
 struct CardLook {
@@ -14,6 +14,11 @@ struct CardLook {
 
     bool operator==(const CardLook&) const = default;
 };
+
+/// All numbers of a CardLook. Each moves by itself, so that a new outline does not
+/// restart a turn.
+inline constexpr std::array cardLookValues{&CardLook::turn, &CardLook::back, &CardLook::front,
+                                           &CardLook::overall, &CardLook::found};
 
 /// How long a change of a card's state takes, in seconds.
 inline constexpr double cardTurnSeconds = 0.45;
@@ -28,14 +33,4 @@ inline constexpr double cardTurnSeconds = 0.45;
             .front = showsFront ? 1.0 : 0.0,
             .overall = isRemoved ? 0.0 : 1.0,
             .found = isMatched ? 1.0 : 0.0};
-}
-
-/// The look `share` of the way from `from` to `to`.
-[[nodiscard]] constexpr CardLook mix(const CardLook& from, const CardLook& to, double share)
-{
-    return {.turn = mix(from.turn, to.turn, share),
-            .back = mix(from.back, to.back, share),
-            .front = mix(from.front, to.front, share),
-            .overall = mix(from.overall, to.overall, share),
-            .found = mix(from.found, to.found, share)};
 }

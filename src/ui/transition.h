@@ -6,7 +6,6 @@
 
 #include <QEasingCurve>
 #include <algorithm>
-#include <utility>
 
 /// The number `share` of the way from `from` to `to`.
 [[nodiscard]] constexpr double mix(double from, double to, double share)
@@ -21,23 +20,15 @@
 /// Fast at first: 1 - (1 - progress)².
 [[nodiscard]] double easeOut(double progress);
 
-/// A value on its way to another. A change that overtakes it goes on from where
-/// it is. `Value` offers mix(from, to, share).
-template <class Value>
+/// A number on its way to another, at first resting at 0. A change that overtakes it
+/// goes on from where it is.
 class Transition {
 public:
     using Curve = double (*)(double progress);
 
-    /// Rests at `value`.
-    explicit Transition(Value value)
-        : m_from(value)
-        , m_to(std::move(value))
-    {
-    }
-
     /// Moves to `target` within `seconds`, beginning after `delay`; 0 seconds
     /// are a jump. False, and nothing changes, if that is its target already.
-    bool moveTo(const Value& target, double seconds, Curve curve, double delay = 0)
+    bool moveTo(double target, double seconds, Curve curve, double delay = 0)
     {
         if (target == m_to)
             return false;
@@ -50,14 +41,14 @@ public:
     }
 
     /// Has `value` from now on, and rests.
-    void jumpTo(const Value& value)
+    void jumpTo(double value)
     {
         m_to = value;
         m_seconds = 0;
     }
 
     /// Where it is at this moment of frameTime().
-    [[nodiscard]] Value value() const
+    [[nodiscard]] double value() const
     {
         const double share = progress();
         return share >= 1 ? m_to : mix(m_from, m_to, m_curve(share));
@@ -70,8 +61,8 @@ private:
         return m_seconds <= 0 ? 1 : std::clamp((frameTime() - m_begin) / m_seconds, 0.0, 1.0);
     }
 
-    Value m_from;
-    Value m_to;
+    double m_from = 0;
+    double m_to = 0;
     double m_begin = 0;
     double m_seconds = 0;
     Curve m_curve = easeInOut;

@@ -66,6 +66,7 @@ QTransform turnProjection(const QRectF& place, double degrees)
 TurningCard::TurningCard(const MemoryCard& card)
     : m_card(card)
 {
+    standAs(CardLook());
 }
 
 bool TurningCard::show(const MemoryCard& card, bool removeMatch)
@@ -76,7 +77,25 @@ bool TurningCard::show(const MemoryCard& card, bool removeMatch)
 
 bool TurningCard::turnTo(const CardLook& look, double delay)
 {
-    return m_look.moveTo(look, seconds(cardTurnSeconds), easeInOut, delay);
+    bool isNew = false;
+    for (std::size_t i = 0; i < m_look.size(); ++i)
+        isNew |=
+            m_look[i].moveTo(look.*cardLookValues[i], seconds(cardTurnSeconds), easeInOut, delay);
+    return isNew;
+}
+
+void TurningCard::standAs(const CardLook& look)
+{
+    for (std::size_t i = 0; i < m_look.size(); ++i)
+        m_look[i].jumpTo(look.*cardLookValues[i]);
+}
+
+CardLook TurningCard::look() const
+{
+    CardLook now;
+    for (std::size_t i = 0; i < m_look.size(); ++i)
+        now.*cardLookValues[i] = m_look[i].value();
+    return now;
 }
 
 bool TurningCard::setHovered(bool isHovered)
@@ -92,12 +111,14 @@ bool TurningCard::setPressed(bool isPressed)
 
 bool TurningCard::isMoving() const
 {
-    return m_look.isMoving() || m_hover.isMoving() || m_press.isMoving();
+    return std::ranges::any_of(m_look, &Transition::isMoving) || m_hover.isMoving() ||
+           m_press.isMoving();
 }
 
 bool TurningCard::isTurning() const
 {
-    return m_look.isMoving();
+    static_assert(cardLookValues.front() == &CardLook::turn);
+    return m_look.front().isMoving();
 }
 
 QRect TurningCard::reach(const QRectF& place) const

@@ -4,6 +4,7 @@
 
 #include "game/memory_card.h"
 #include "ui/card_look.h"
+#include "ui/transition.h"
 
 #include <QColor>
 #include <QPixmap>
@@ -36,12 +37,12 @@ public:
     bool setPressed(bool isPressed);
 
     /// Has `look` from now on, without motion.
-    void standAs(const CardLook& look) { m_look.jumpTo(look); }
+    void standAs(const CardLook& look);
     /// Lies on others instead of the bare window, whose `colour` keeps them
     /// from showing through its face.
     void setGround(const QColor& colour) { m_ground = colour; }
 
-    [[nodiscard]] CardLook look() const { return m_look.value(); }
+    [[nodiscard]] CardLook look() const;
     /// Anything of the look changes; it will have to be painted again.
     [[nodiscard]] bool isMoving() const;
     /// The card stands out of the board's plane.
@@ -59,9 +60,9 @@ private:
     void prepareFaces(qreal edge, qreal devicePixelRatio);
 
     MemoryCard m_card;
-    Transition<CardLook> m_look{CardLook()};
-    Transition<double> m_hover{0.0};
-    Transition<double> m_press{0.0};
+    std::array<Transition, cardLookValues.size()> m_look{}; ///< In the order of cardLookValues.
+    Transition m_hover{};
+    Transition m_press{};
     QColor m_ground{}; ///< Invalid on the bare window.
     QPixmap m_front{};
     qreal m_edge = 0;
