@@ -25,7 +25,7 @@ QPixmap kept(const QString& key, Make make)
 /// The logo as it is in its file, of which there is one of 180 and one of 360 pixels.
 QPixmap sourceFor(int pixels)
 {
-    const QString name = pixels <= 180 ? QStringLiteral("logo") : QStringLiteral("logo@2x");
+    const QString name = pixels <= 180 ? QStringLiteral("Paircade") : QStringLiteral("Paircade@2x");
     return kept(name, [&name] {
         const auto file = platform().bundle.resource(name, QStringLiteral("png"));
         return QPixmap(file.value_or(QString()));
