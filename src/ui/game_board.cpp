@@ -92,13 +92,14 @@ void GameBoard::replaceTiles(const MemoryCards& cards)
     const std::vector<MemoryCardView*> leaving = std::exchange(m_tiles, {});
     const bool hadFocus = std::ranges::any_of(leaving, &QWidget::hasFocus);
     for (std::size_t i = 0; i < cards.size(); ++i) {
-        auto* const tile = new MemoryCardView(cards[i], this);
+        auto* const tile = new MemoryCardView(cards[i], i, this);
         tile->setObjectName(QStringLiteral("card%1").arg(i));
         connect(tile, &MemoryCardView::clicked, this,
                 [this, tile] { m_game.flipCard(tile->card()); });
-        connect(
-            tile, &MemoryCardView::navigated, this,
-            [this, i](int key, Qt::KeyboardModifiers modifiers) { navigate(i, key, modifiers); });
+        connect(tile, &MemoryCardView::navigated, this,
+                [this, tile](int key, Qt::KeyboardModifiers modifiers) {
+                    navigate(tile->index(), key, modifiers);
+                });
         connect(tile, &MemoryCardView::faceChanged, this, [this, tile] {
             update(tile->face().reach(place(*tile)));
             followFrame();

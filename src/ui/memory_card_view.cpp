@@ -15,9 +15,10 @@ constexpr bool readersSpeakNewNames = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
 } // namespace
 
-MemoryCardView::MemoryCardView(const MemoryCard& card, QWidget* parent)
+MemoryCardView::MemoryCardView(const MemoryCard& card, std::size_t index, QWidget* parent)
     : QAbstractButton(parent)
     , m_face(card)
+    , m_index(index)
 {
     setFocusPolicy(Qt::ClickFocus); // the board lets Tab come to one of its cards
     setAttribute(Qt::WA_Hover);

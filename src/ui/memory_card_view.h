@@ -5,6 +5,7 @@
 #include "ui/turning_card.h"
 
 #include <QAbstractButton>
+#include <cstddef>
 
 /// One card on the board: a real button for pointer, focus and screen reader.
 ///
@@ -14,9 +15,11 @@ class MemoryCardView : public QAbstractButton {
     Q_OBJECT
 
 public:
-    MemoryCardView(const MemoryCard& card, QWidget* parent);
+    /// `index` is the card's position on the board.
+    MemoryCardView(const MemoryCard& card, std::size_t index, QWidget* parent);
 
     [[nodiscard]] const MemoryCard& card() const { return m_face.card(); }
+    [[nodiscard]] std::size_t index() const { return m_index; }
     [[nodiscard]] TurningCard& face() { return m_face; }
 
     /// Takes over the card's state. `name` is what a screen reader says; a card
@@ -41,6 +44,7 @@ private:
     void followPointer();
 
     TurningCard m_face;
+    std::size_t m_index;
     bool m_canBeTurned = true;
     bool m_owesName = false; ///< Readers were not told of its name yet.
 };
