@@ -79,6 +79,8 @@ ContentView::ContentView(std::unique_ptr<MemoryGame> game, QWidget* parent)
     connect(m_gameBoard, &GameBoard::focusMoved, m_boardArea,
             [this](QWidget* tile) { m_boardArea->ensureWidgetVisible(tile, 20, 20); });
 
+    connect(m_gameBoard, &GameBoard::removalDue, this, &ContentView::scheduleRefresh);
+
     connect(m_leftSidebar, &LeftSidebar::scrolled, m_logo,
             [this](int points) { m_logo->move(m_logo->x(), logoTop - points); });
 

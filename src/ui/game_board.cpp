@@ -30,6 +30,8 @@ constexpr qreal ringDistance = 7.5;
 constexpr qreal ringWidth = 3;
 constexpr qreal ringRadius = 21.5;
 constexpr int ringReach = 10;
+constexpr double removalDelaySeconds = 0.35;        ///< After the turn of a removed pair.
+constexpr double reducedRemovalDelaySeconds = 0.60; ///< Where motion is reduced.
 
 } // namespace
 
@@ -40,12 +42,16 @@ GameBoard::GameBoard(MemoryGame& game, QWidget* parent)
 {
     setObjectName(QStringLiteral("gameBoard"));
     setAccessibleName(localizedText("board_accessible_name"));
-    connect(&m_frames, &FrameTimer::frame, this, &GameBoard::followFrame);
+    connect(&m_frames, &FrameTimer::frame, this, &GameBoard::nextFrame);
 }
 
 void GameBoard::refresh()
 {
-    const MemoryCards& cards = m_game.cards();
+    showCards(m_game.cards());
+}
+
+void GameBoard::showCards(const MemoryCards& cards)
+{
     const bool isSameBoard = std::ranges::equal(cards, m_tiles, {}, &MemoryCard::id,
                                                 [](const auto* tile) { return tile->card().id; });
     if (!isSameBoard)
@@ -54,21 +60,45 @@ void GameBoard::refresh()
     const bool awaitsTap = m_game.isGameActive() && !m_game.isCheckingPair();
     for (std::size_t i = 0; i < cards.size(); ++i) {
         const bool canBeTurned = awaitsTap && !cards[i].isFaceUp && !cards[i].isMatched;
-        m_tiles[i]->show(cards[i], removeMatch, canBeTurned,
-                         cardText(cards, i, m_game.cardColumns(), removeMatch));
+        MemoryCard card = cards[i];
+        card.isMatched = isMatchedForView(i, card, removeMatch);
+        m_tiles[i]->show(card, removeMatch, canBeTurned,
+                         cardText(cards, i, m_game.cardColumns(), removeMatch && card.isMatched));
     }
+    followFrame();
 }
 
-std::vector<LeavingBoard::Card> GameBoard::leavingCards(const MemoryCards& cards) const
+bool GameBoard::isMatchedForView(std::size_t position, const MemoryCard& card, bool removeMatch)
 {
-    const bool removeMatch = platform().defaults.integer(SettingsKeys::RemoveMatch) == 1;
+    // A view that removes its card turns it back at once, and the second picture of
+    // the pair would never be seen.
+    const bool isNews = card.isMatched && !m_tiles[position]->card().isMatched;
+    std::optional<double>& removalTime = m_removalTimes[position];
+    if (isNews && removeMatch && !removalTime)
+        removalTime =
+            frameTime() + (Appearance::isMotionReduced() ? reducedRemovalDelaySeconds
+                                                         : cardTurnSeconds + removalDelaySeconds);
+    if (isNews && removeMatch && frameTime() < *removalTime)
+        return false;
+    removalTime.reset();
+    return card.isMatched;
+}
+
+std::vector<LeavingBoard::Card> GameBoard::leavingCards(const MemoryCards& cards)
+{
+    showCards(cards);
     std::vector<LeavingBoard::Card> leaving;
-    for (std::size_t i = 0; i < std::min(cards.size(), m_tiles.size()); ++i) {
-        leaving.push_back({m_tiles[i]->face(), place(*m_tiles[i])});
-        leaving.back().face.setPressed(false);
-        leaving.back().face.show(cards[i], removeMatch);
-    }
+    for (std::size_t i = 0; i < m_tiles.size(); ++i)
+        leaving.push_back({m_tiles[i]->face(), place(*m_tiles[i]), m_removalTimes[i]});
     return leaving;
+}
+
+void GameBoard::nextFrame()
+{
+    if (std::ranges::any_of(m_removalTimes,
+                            [](const auto& time) { return time && *time <= frameTime(); }))
+        Q_EMIT removalDue();
+    followFrame();
 }
 
 void GameBoard::followFrame()
@@ -80,7 +110,9 @@ void GameBoard::followFrame()
             moving += tile->face().reach(place(*tile));
     }
     update(moving + m_moved);
-    if (moving.isEmpty())
+    const bool isPairHeld =
+        std::ranges::any_of(m_removalTimes, [](const auto& time) { return time.has_value(); });
+    if (moving.isEmpty() && !isPairHeld)
         m_frames.stop();
     else
         m_frames.start();
@@ -91,6 +123,7 @@ void GameBoard::replaceTiles(const MemoryCards& cards)
 {
     const std::vector<MemoryCardView*> leaving = std::exchange(m_tiles, {});
     const bool hadFocus = std::ranges::any_of(leaving, &QWidget::hasFocus);
+    m_removalTimes.assign(cards.size(), std::nullopt);
     for (std::size_t i = 0; i < cards.size(); ++i) {
         auto* const tile = new MemoryCardView(cards[i], i, this);
         tile->setObjectName(QStringLiteral("card%1").arg(i));

@@ -9,6 +9,7 @@
 #include <QRegion>
 #include <QWidget>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 class MemoryCardView;
@@ -42,15 +43,17 @@ public:
     /// Whether the focused card wears its ring: after a key, not after a press.
     void setFocusRingShown(bool isShown);
 
-    /// The cards as they lie, on their way to the state `cards`, for a picture of
-    /// a board that has been won; places count from this widget.
-    [[nodiscard]] std::vector<LeavingBoard::Card> leavingCards(const MemoryCards& cards) const;
+    /// Shows `cards`, a board that has been won, and returns them for its picture;
+    /// places count from this widget.
+    [[nodiscard]] std::vector<LeavingBoard::Card> leavingCards(const MemoryCards& cards);
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// A card got the focus by a key or by the game, and should be seen.
     void focusMoved(QWidget* tile);
+    /// A found pair was seen long enough. The next refresh() removes it.
+    void removalDue();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -59,7 +62,11 @@ protected:
 
 private:
     void moveTabStop(std::size_t position);
+    void showCards(const MemoryCards& cards);
+    [[nodiscard]] bool isMatchedForView(std::size_t position, const MemoryCard& card,
+                                        bool removeMatch);
     void replaceTiles(const MemoryCards& cards);
+    void nextFrame();
     void followFrame();
     void arrange();
     void paintFocusRing(QPainter& painter) const;
@@ -69,6 +76,9 @@ private:
 
     MemoryGame& m_game;
     std::vector<MemoryCardView*> m_tiles{};
+    /// When the tile at the same position learns that its pair was found, by
+    /// frameTime(); none if it knows all.
+    std::vector<std::optional<double>> m_removalTimes{};
     int m_columns = 1;
     double m_cardSize = 0;
     int m_topRoom = 0;

@@ -44,6 +44,19 @@ void LeavingBoard::followTime()
         end();
     else
         update();
+    removePairs();
+}
+
+void LeavingBoard::removePairs()
+{
+    for (Card& card : m_cards) {
+        if (!card.removalTime || frameTime() < *card.removalTime)
+            continue;
+        card.removalTime.reset();
+        MemoryCard found = card.face.card();
+        found.isMatched = true;
+        card.face.show(found, true);
+    }
 }
 
 void LeavingBoard::end()

@@ -6,6 +6,7 @@
 #include "ui/turning_card.h"
 
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 /// A won board on its way out: its last card turns, then it fades over what has
@@ -18,7 +19,8 @@ public:
     /// A card of the won board, and where it lies.
     struct Card {
         TurningCard face;
-        QRectF place{}; ///< In this widget's points.
+        QRectF place{};                      ///< In this widget's points.
+        std::optional<double> removalTime{}; ///< When its pair is removed, by frameTime().
     };
 
     /// Begins at once.
@@ -34,6 +36,7 @@ protected:
 
 private:
     void followTime();
+    void removePairs();
     void end();
 
     std::vector<Card> m_cards;
