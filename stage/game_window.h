@@ -127,6 +127,7 @@ public:
     /// Finds the next pair by two clicks.
     void clickPair()
     {
+        press(Qt::Key_Escape); // a board that fades out would take the first click
         const std::size_t first = hiddenCard(game());
         const std::size_t second = otherCard(game(), first, true);
         clickCard(first);

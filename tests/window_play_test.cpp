@@ -63,6 +63,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             QCOMPARE(m_window->focused(), u"card%1"_s.arg(second));
             QCOMPARE(faceUpCards(game()) % 2, 0);
+            m_window->press(Qt::Key_Escape); // the board of the last round may still be seen
         }
         QVERIFY(game().gameCompleted());
         QCOMPARE(game().failedAttempts(), 0);

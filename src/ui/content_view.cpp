@@ -218,6 +218,7 @@ void ContentView::showLeavingBoard()
     leaving->setGeometry(m_boardArea->geometry());
     leaving->stackUnder(m_header);
     leaving->show();
+    connect(leaving, &LeavingBoard::dismissed, this, [this] { m_ignoresRepeats = true; });
     if (m_game->gameCompleted())
         connect(leaving, &LeavingBoard::turned, this, &ContentView::celebrate);
 }

@@ -3,14 +3,15 @@
 #include "ui/leaving_board.h"
 
 #include "platform/widgets/appearance.h"
-#include "platform/widgets/held_input.h"
 #include "ui/device_pixels.h"
 
-#include <QCoreApplication>
-#include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QWindow>
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -27,10 +28,9 @@ LeavingBoard::LeavingBoard(std::vector<Card> cards, QWidget* parent)
     , m_begin(frameTime())
 {
     setObjectName(QStringLiteral("leavingBoard"));
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(&m_frames, &FrameTimer::frame, this, &LeavingBoard::followTime);
     m_frames.start();
-    QCoreApplication::instance()->installEventFilter(this);
+    window()->windowHandle()->installEventFilter(this); // where keys arrive first
 }
 
 void LeavingBoard::followTime()
@@ -62,18 +62,47 @@ void LeavingBoard::removePairs()
 void LeavingBoard::end()
 {
     m_frames.stop();
-    QCoreApplication::instance()->removeEventFilter(this);
+    window()->windowHandle()->removeEventFilter(this);
     hide();
     if (!std::exchange(m_hasTurned, true))
         Q_EMIT turned();
     deleteLater();
 }
 
+void LeavingBoard::dismiss()
+{
+    end();
+    Q_EMIT dismissed();
+}
+
+bool LeavingBoard::isDismissedBy(const QKeyEvent& key) const
+{
+    constexpr std::array keys{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Escape};
+    const QWidget* const focus = window()->focusWidget();
+    return std::ranges::find(keys, key.key()) != keys.end() && !key.isAutoRepeat() &&
+           (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier &&
+           QApplication::activePopupWidget() == nullptr &&
+           (focus == nullptr ||
+            rect().intersects({mapFromGlobal(focus->mapToGlobal(QPoint())), focus->size()}));
+}
+
 bool LeavingBoard::eventFilter(QObject*, QEvent* event)
 {
-    if (isMousePress(*event) || isKeyPress(*event))
-        end();
-    return false;
+    const bool isDismissed =
+        event->type() == QEvent::KeyPress && isDismissedBy(static_cast<const QKeyEvent&>(*event));
+    if (isDismissed)
+        dismiss();
+    return isDismissed;
+}
+
+void LeavingBoard::mousePressEvent(QMouseEvent*)
+{
+    dismiss();
+}
+
+void LeavingBoard::mouseDoubleClickEvent(QMouseEvent*)
+{
+    // The first half turned the last card. It would be gone before it was seen.
 }
 
 void LeavingBoard::paintEvent(QPaintEvent*)

@@ -10,8 +10,9 @@
 #include <vector>
 
 /// A won board on its way out: its last card turns, then it fades over what has
-/// replaced it. A picture only; any press or key ends it and goes on to what
-/// lies beneath. Deletes itself.
+/// replaced it. A press on it ends it, and so does Return, Space or Escape unless
+/// the focus is beside it; the covered controls do not receive that input. All other
+/// keys reach them. Deletes itself.
 class LeavingBoard : public QWidget {
     Q_OBJECT
 
@@ -29,14 +30,20 @@ public:
 Q_SIGNALS:
     /// The last card lies still, and the board begins to fade or is gone.
     void turned();
+    /// A press or a key ended it.
+    void dismissed();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void followTime();
     void removePairs();
+    [[nodiscard]] bool isDismissedBy(const QKeyEvent& key) const;
+    void dismiss();
     void end();
 
     std::vector<Card> m_cards;
