@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the window shows in each state: lists, menu, cards; and full screen.
+// What the window shows in each state: lists, menu; and full screen.
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
 #include "support/results.h"
@@ -105,55 +105,6 @@ private Q_SLOTS:
         window.choose(u"menu_restore_highscores"_s);
         QVERIFY(line.isVisible());
         QCOMPARE(enabled(), u"new_game"_s);
-    }
-
-    void eachStateOfACardIsDrawnAndNamed()
-    {
-        GameWindow window;
-        window.startGame();
-        window.clickPair();
-        const std::size_t hidden = hiddenCard(window.game());
-        window.clickCard(hidden);
-        const std::size_t back = hiddenCard(window.game());
-        const std::size_t found = 0;
-        const CardPicture& picture = window.game().cards()[hidden].image;
-
-        QTest::qWait(500); // until the cards lie still
-
-        // A point of the outline, half way down the left edge.
-        QVERIFY(isYellow(pixel(window, found, {1, 0.5})));
-        QVERIFY(pixel(window, hidden, {0, 0.5}).saturation() < 20);
-        QCOMPARE(pixel(window, hidden, {40, 0.5}), picture.image.pixelColor(8, 8));
-        const QColor teal = pixel(window, back, {4, 0.5});
-        QVERIFY(teal.green() > 120 && teal.red() < 40 && teal.blue() > 140);
-
-        // Found pairs leave at the next change, not when the setting is written.
-        window.platform.defaults->setInteger(SettingsKeys::RemoveMatch, 1);
-        QVERIFY(isYellow(pixel(window, found, {1, 0.5})));
-        const QRect before = window.card(found).geometry();
-        window.clickCard(otherCard(window.game(), hidden, true));
-        QTest::qWait(500);
-        QCOMPARE(pixel(window, found, {40, 0.5}),
-                 window.window().palette().color(QPalette::Window));
-        QCOMPARE(window.card(found).accessibleName(), u"Row 1, column 1, empty"_s);
-        QCOMPARE(window.card(found).geometry(), before);
-    }
-
-private:
-    /// The colour on the board at `where` (points from the left, share of the
-    /// height) of the card `position`.
-    static QColor pixel(GameWindow& window, std::size_t position, QPointF where)
-    {
-        auto& board = window.child<QWidget>(u"gameBoard"_s);
-        const QRect card = window.card(position).geometry();
-        return board.grab().toImage().pixelColor(card.x() + int(where.x()),
-                                                 card.y() + int(where.y() * card.height()));
-    }
-
-    /// Yellow at 95 % over any light ground.
-    static bool isYellow(const QColor& colour)
-    {
-        return colour.red() > 250 && qAbs(colour.green() - 205) < 4 && colour.blue() < 15;
     }
 };
 
