@@ -132,6 +132,7 @@ private:
         m_camera.wait(1);
         const std::size_t other = otherCard(shown->game(), 5, true);
         shown->clickCard(other);
+        m_camera.wait(0.8); // both pictures are seen first
         film(5, u"turn-removed"_s);
         m_camera.wait(1);
         missPair(*shown);

@@ -93,6 +93,7 @@ protected:
     void findPairs(GameWindow& shown, int pairs)
     {
         for (int pair = 0; pair < pairs; ++pair) {
+            shown.press(Qt::Key_Escape); // a board that fades out would take the click
             const std::size_t first = hiddenFrom(shown.game(), std::size_t(pair) * 7 + 1);
             shown.clickCard(first);
             m_camera.wait(1);
