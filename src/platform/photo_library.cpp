@@ -10,13 +10,6 @@
 #include <QFileInfo>
 #include <utility>
 
-namespace {
-
-// Impatient players choose the preferences again while a dead mount blocks the first list.
-constexpr std::chrono::seconds keptIncomplete{5};
-
-} // namespace
-
 PhotoLibrary::PhotoLibrary(PhotoAccessStore& store, AccessPrompt* prompt, QString picturesFolder,
                            QString helperProgram)
     : m_store(store)
@@ -62,16 +55,7 @@ QByteArray PhotoLibrary::readableFolder() const
 
 PhotoAlbums PhotoLibrary::albums()
 {
-    const QByteArray folder = readableFolder();
-    if (!m_incompleteUntil.hasExpired() && folder == m_incompleteFolder)
-        return m_incomplete;
-    PhotoAlbums albums = startFetch()->albums(PhotoFetch::Counted::upToOne);
-    if (!albums.isComplete) {
-        m_incomplete = albums;
-        m_incompleteFolder = folder;
-        m_incompleteUntil.setRemainingTime(keptIncomplete);
-    }
-    return albums;
+    return startFetch()->albums(PhotoFetch::Counted::upToOne);
 }
 
 QString PhotoLibrary::limitedTo() const

@@ -5,7 +5,6 @@
 #include "platform/photo_access.h"
 #include "platform/photo_fetch.h"
 
-#include <QDeadlineTimer>
 #include <memory>
 
 class AccessPrompt;
@@ -34,9 +33,8 @@ public:
     /// there was no answer, which is not stored. Blocks meanwhile.
     virtual PhotoAuthorization requestAuthorization();
 
-    /// The user's albums, in the library's order, counted. Titles may be equal.
-    /// Empty where reading is not allowed. Blocks up to PhotoPatience::round, but not
-    /// again at once: an incomplete list is given a second time for a few seconds.
+    /// Returns the user's albums, in the library's order, counted. Titles may be equal.
+    /// Empty where reading is not allowed. Blocks up to PhotoPatience::round.
     [[nodiscard]] virtual PhotoAlbums albums();
 
     /// The folder that may be read, in the system's bytes; empty if none.
@@ -53,7 +51,4 @@ private:
     AccessPrompt* m_prompt;
     QString m_picturesFolder;
     QString m_helperProgram;
-    PhotoAlbums m_incomplete{};         ///< The last such list,
-    QByteArray m_incompleteFolder{};    ///< of this library,
-    QDeadlineTimer m_incompleteUntil{}; ///< and how long it is not made anew.
 };
