@@ -52,7 +52,9 @@ private Q_SLOTS:
         const QRect rank(0, 0, label.fontMetrics().horizontalAdvance(u"1."_s), 20);
         const QImage shown = picture(label);
         const int end = lastInk(shown) + 1;
+        const int height = label.sizeHint().height();
         label.setText(u"1. Ann – 01:07"_s, {u"Ann"_s});
+        QCOMPARE(height, label.sizeHint().height());
         const QImage plain = picture(label);
         const int timeWidth = label.fontMetrics().horizontalAdvance(u"01:07"_s) - 2;
         QCOMPARE(shown.copy(rank), plain.copy(rank));

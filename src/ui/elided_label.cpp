@@ -127,6 +127,11 @@ QSize ElidedLabel::minimumSizeHint() const
     return {0, fontMetrics().height()};
 }
 
+QSize ElidedLabel::sizeHint() const
+{
+    return {QLabel::sizeHint().width(), fontMetrics().height()};
+}
+
 bool ElidedLabel::event(QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] QString shownText() const;
 
     [[nodiscard]] QSize minimumSizeHint() const override;
+    /// Returns the size of the text on one line, line breaks in it included.
+    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     bool event(QEvent* event) override;
