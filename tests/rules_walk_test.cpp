@@ -298,10 +298,9 @@ private:
         const QTimer* const clock = m_game->timer();
         same("timer", clock && clock->isActive() ? clock->interval() : 0, m_rules.timer ? 1000 : 0);
         same("timerStarted", m_game->timerStarted(), m_rules.timerStarted);
-        QList<int> delays;
+        same("delayed steps", int(waitingTimers().size()), int(m_rules.delayed.has_value()));
         for (const QTimer* const timer : waitingTimers())
-            delays << timer->interval();
-        same("delays", delays, QList<int>(m_rules.delayed.has_value(), 1000));
+            same("delay", timer->interval(), 1000);
         same("alerts", m_platform.alertLog.shown, m_rules.alerts);
         same("canRestoreHighscores", m_game->canRestoreHighscores(), !m_rules.removed.empty());
         same("the grid", m_game->cardColumns() * m_game->cardRows(), 2 * m_rules.pairsPerRound());

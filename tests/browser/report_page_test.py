@@ -218,15 +218,14 @@ class ReportPage(unittest.TestCase):
         command = self.driver.execute_cdp_cmd
         self.addCleanup(command, "Emulation.clearDeviceMetricsOverride", {})
         self.addCleanup(command, "Emulation.setEmulatedMedia", {"features": []})
-        names = ["--bg", "--surface", "--text", "--muted", "--border", "--accent"]
         for scheme, expected in {
                 "light": ["#f5f5f7", "#ffffff", "#1d1d1f", "#6e6e73", "#d2d2d7", "#007aff"],
                 "dark": ["#111113", "#1c1c1e", "#f5f5f7", "#a1a1a6", "#3a3a3c", "#0a84ff"]}.items():
             command("Emulation.setEmulatedMedia", {"features": [
                 {"name": "prefers-color-scheme", "value": scheme}]})
-            self.assertEqual([self.run_script("return getComputedStyle(document.documentElement)"
-                                              ".getPropertyValue(arguments[0]).trim()", name)
-                              for name in names], expected)
+            self.assertEqual(self.run_script(
+                "return ['bg', 'surface', 'text', 'muted', 'border', 'accent'].map(name =>"
+                "getComputedStyle(document.body).getPropertyValue('--' + name).trim())"), expected)
         command("Emulation.setDeviceMetricsOverride", {
             "width": 390, "height": 844, "deviceScaleFactor": 1, "mobile": True})
         colours = self.each("body, .table-wrap", "getComputedStyle(e).backgroundColor")

@@ -55,17 +55,17 @@ bool read(const json& value, std::int64_t& field)
         return false;
     static const QRegularExpression form(QStringLiteral(R"((-?)(\d+)\.?(\d*)[eE]?([+-]?\d*))"));
     const auto parts = form.match(QString::fromStdString(value.at(numberKey.constData())));
-    const QString digits = parts.captured(2) + parts.captured(3);
-    // How many digits are before the point once it is moved.
-    const double point = double(parts.capturedLength(2)) + parts.captured(4).toDouble();
-    const QString whole = digits.left(qsizetype(std::clamp(point, 0.0, double(digits.size()))));
-    const qsizetype zeros = digits.count(u'0') - whole.count(u'0');
-    if (digits.size() - whole.size() > zeros)
-        return false; // a fraction
-    const QString moreZeros(qsizetype(std::clamp(point - double(digits.size()), 0.0, 20.0)), u'0');
-    bool isWithinRange = true;
-    if (whole.count(u'0') < whole.size())
-        field = (parts.captured(1) + whole + moreZeros).toLongLong(&isWithinRange);
+    QString digits = parts.captured(2) + parts.captured(3);
+    double exponent = parts.captured(4).toDouble() - double(parts.capturedLength(3));
+    for (; digits.endsWith(u'0'); digits.chop(1))
+        ++exponent;
+    field = 0;
+    if (digits.isEmpty())
+        return true;
+    bool isWithinRange = exponent >= 0;
+    if (isWithinRange)
+        field = (parts.captured(1) + digits + QString(qsizetype(std::min(exponent, 20.0)), u'0'))
+                    .toLongLong(&isWithinRange);
     return isWithinRange;
 }
 
