@@ -28,6 +28,7 @@ private Q_SLOTS:
         QCOMPARE(commentary.take(), QString()); // an alert tells of it
         makeDeck(platform.home.path(), u"Cyberpunk"_s, 6);
         game.startNewGame();
+        QVERIFY(commentary.take().startsWith(u"Round 1 of 1."_s));
         miss(game);
         game.endGame();
         QVERIFY(commentary.take().endsWith(u"Not a pair."_s));

@@ -9,6 +9,7 @@
 #include "support/texts_fit.h"
 #include "ui/colours.h"
 
+#include <QFocusFrame>
 #include <QMenu>
 #include <QMenuBar>
 #include <cmath>
@@ -159,6 +160,10 @@ private Q_SLOTS:
             GameWindow window;
             window.type(u"Ann"_s);
             lookAtFocus(window.window(), 5);
+            const auto& ring = *window.window().findChild<QFocusFrame*>();
+            QVERIFY(ring.isVisible());
+            window.click(u"playerName"_s);
+            QVERIFY(!ring.isVisible());
             window.delegate.showPreferences();
             auto& preferences = window.child<QWidget>(u"Preferences"_s);
             QVERIFY(QTest::qWaitForWindowActive(&preferences));

@@ -111,6 +111,18 @@ private Q_SLOTS:
         shown = window.window().grab().toImage();
         const QPoint corner = window.child<QWidget>(u"logo"_s).mapTo(&window.window(), QPoint());
         QVERIFY(shown.pixel(corner) != shown.pixel(corner + QPoint(90, 90)));
+
+        // The fan turns a card once both names are there.
+        const auto& fan = *window.child<QWidget>(u"invitation"_s).findChild<FrameTimer*>();
+        window.click(u"versusCheckbox"_s);
+        pass(2);
+        for (const QString& field : {u"playerOneName"_s, u"playerTwoName"_s}) {
+            QTRY_VERIFY(!fan.isRunning());
+            window.click(field);
+            window.type(u"Ann"_s);
+            QCoreApplication::processEvents();
+        }
+        QVERIFY(fan.isRunning());
     }
 
     void pairsAreSeenBeforeTheyAreRemoved_data()
@@ -156,9 +168,14 @@ private Q_SLOTS:
         pass(0.46);
         QVERIFY(areBoth(cardLook(true, true, isRemoved), isRemoved ? u"empty"_s : u"found"_s));
         QVERIFY(!window.child<QWidget>(u"gameBoard"_s).findChild<FrameTimer*>()->isRunning());
-        window.clickCard(hiddenCard(window.game()));
+        const std::size_t open = hiddenCard(window.game());
+        window.clickCard(open);
         pass(0.46);
         QVERIFY(areBoth(cardLook(true, true, meanwhile == 1), {}));
+        window.clickCard(otherCard(window.game(), open, true));
+        winRound(window);
+        window.press(Qt::Key_Escape);
+        QCOMPARE(isShown<Celebration>(window), !isMotionReduced);
         QApplication::setStyle(u"fusion"_s);
     }
 

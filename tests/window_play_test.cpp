@@ -41,6 +41,8 @@ private Q_SLOTS:
         QCOMPARE(m_window->text(u"bestTimes1"_s), u"1. Ann – "_s + game().formattedElapsedTime());
         QCOMPARE(m_window->text(u"bestFailures1"_s), u"1. Ann – 0"_s);
         QVERIFY(m_window->platform.readHighscoreFile().contains("\"playerName\": \"Ann\""));
+        m_window->click(u"versusCheckbox"_s); // the result was one of the other mode
+        QCOMPARE(m_window->text(u"headerText"_s), QString());
     }
 
     void aWholeGameByKeyboard()
@@ -74,6 +76,9 @@ private Q_SLOTS:
         m_window->type(u"a"_s);
         m_window->repeat(Qt::Key_A, u"a"_s);
         QCOMPARE(game().playerName(), u"Annaa"_s);
+        m_window->press(Qt::Key_Left);
+        m_window->type(u"bc"_s); // the cursor stays
+        QCOMPARE(game().playerName(), u"Annabca"_s);
     }
 
     void arrowsStopAtTheEdges()

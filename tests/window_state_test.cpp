@@ -4,6 +4,7 @@
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
 #include "support/results.h"
+#include "ui/elided_label.h"
 
 #include <QMenuBar>
 
@@ -74,7 +75,10 @@ private Q_SLOTS:
 
     void menuAndSidebarFollowTheGame()
     {
-        GameWindow window([](auto& platform) { writeResults(platform, 1); });
+        const QString wide(60, u'W');
+        GameWindow window([&wide](auto& platform) {
+            writeResults(platform, 1, {.playerName = wide, .secondPlayerName = wide + u'2'});
+        });
         const auto enabled = [&window] {
             QStringList items;
             for (const QString& item : {u"new_game"_s, u"end_game"_s, u"restore_highscores"_s}) {
@@ -105,6 +109,9 @@ private Q_SLOTS:
         window.choose(u"menu_restore_highscores"_s);
         QVERIFY(line.isVisible());
         QCOMPARE(enabled(), u"new_game"_s);
+
+        window.click(u"versusCheckbox"_s);
+        QVERIFY(window.child<ElidedLabel>(u"bestVersus1"_s).shownText().endsWith(u" – 0:0"_s));
     }
 };
 
