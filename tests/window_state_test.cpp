@@ -28,6 +28,8 @@ private Q_SLOTS:
         QCOMPARE(window.delegate.contentView()->calculateCardSize({700, 500}), 70.0);
         QVERIFY(!item.isChecked());
         QTRY_COMPARE(window.window().minimumSize(), window.window().maximumSize());
+        window.window().showFullScreen(); // as by a key of the desktop
+        QTRY_VERIFY(item.isChecked());
     }
 
     void windowFollowsMenuBarAndScreen()
