@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "stage/stage_platform.h"
 
-#include "platform/localized_text.h"
 #include "platform/user_folders.h"
 #include "settings/default_settings.h"
 #include "settings/settings_keys.h"
@@ -20,10 +19,8 @@ StagePlatform::StagePlatform(Alerts* alerts, const QString& language)
     useBuiltResources();
     createDefaultSettings(*defaults);
     defaults->setInteger(SettingsKeys::PlaySounds, 0);
-    if (!loadCatalogue(m_texts, *m_bundle->resourceFolder() + QStringLiteral("/translations"),
-                       {language}))
+    if (!m_texts.install(*m_bundle->resourceFolder() + QStringLiteral("/translations"), {language}))
         qFatal("the texts are missing");
-    QCoreApplication::installTranslator(&m_texts);
 }
 
 StagePlatform::~StagePlatform()

@@ -6,6 +6,7 @@
 #include "platform/alerts.h"
 #include "platform/application_bundle.h"
 #include "platform/audio_player.h"
+#include "platform/localized_text.h"
 #include "platform/main_queue.h"
 #include "platform/notification_center.h"
 #include "platform/photo_library.h"
@@ -15,7 +16,6 @@
 
 #include <QStringList>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <memory>
 
 /// Keeps the alerts instead of showing them, for callers without a window.
@@ -119,5 +119,5 @@ private:
     Alerts& m_alerts;
     std::unique_ptr<ApplicationBundle> m_bundle{};
     std::unique_ptr<Platform> m_platform{};
-    QTranslator m_texts{};
+    Catalogues m_texts{};
 };

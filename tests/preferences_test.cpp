@@ -84,7 +84,8 @@ private Q_SLOTS:
         // Shown are rounds, layout, volume, and whether found pairs are cleared.
         const Rows<QByteArray, QList<int>, QByteArray> row{"settings", "shown", "deck"};
         row("good ones",
-            "AmountRounds=7\nAmountCards=4\nVolumeSound=35\nRemoveMatch=1\nCardDeck=Kids\n",
+            "AmountRounds=7\nAmountCards=4\nVolumeSound=35\nRemoveMatch=1\nCardDeck=Kids\n"
+            "LaunchInFullscreen=1\n",
             {7, 4, 35, 1}, "Kids");
         row("none", "Foreign=1\n", {1, 1, 50, 0}, "Cyberpunk");
         const auto everyKey = [&row](const char* name, const char* value, const QList<int>& shown) {
@@ -108,6 +109,7 @@ private Q_SLOTS:
                                window.child<QSlider>(u"volumeSound"_s).value(),
                                int(window.child<QCheckBox>(u"removeMatch"_s).isChecked())};
         QTEST(shown, "shown");
+        QCOMPARE(int(window.child<QCheckBox>(u"launchInFullscreen"_s).isChecked()), shown[3]);
         QCOMPARE(stored("AmountRounds"), QByteArray::number(shown[0]));
         QCOMPARE(stored("AmountCards"), QByteArray::number(shown[1]));
         QCOMPARE(stored("CardDeck"), deck);

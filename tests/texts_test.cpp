@@ -109,14 +109,14 @@ private Q_SLOTS:
             {{u"en-GB"_s, u"de"_s}, u"en"_s},
         };
         QCOMPARE(localizedText("end_game"), u"end_game"_s);
-        QTranslator none;
-        QVERIFY(!loadCatalogue(none, m_folder + u"/missing"_s, {u"de"_s}));
+        QVERIFY(!Catalogues().install(m_folder + u"/missing"_s, {u"de"_s}));
         for (const auto& [languages, loaded] : choices) {
-            QTranslator translator;
-            QVERIFY(loadCatalogue(translator, m_folder, languages));
-            QVERIFY(QCoreApplication::installTranslator(&translator));
+            Catalogues catalogues;
+            QVERIFY(catalogues.install(m_folder, languages));
             QCOMPARE(localizedText("end_game"), m_texts[loaded][u"end_game"_s][0]);
             QCOMPARE(localizedText("no_such_key"), u"no_such_key"_s);
+            QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel") == u"Abbrechen",
+                     loaded == u"de");
         }
     }
 

@@ -30,6 +30,10 @@ private Q_SLOTS:
         QTRY_COMPARE(window.window().minimumSize(), window.window().maximumSize());
         window.window().showFullScreen(); // as by a key of the desktop
         QTRY_VERIFY(item.isChecked());
+
+        window.window().showMinimized();
+        window.delegate.activate(); // by another start
+        QVERIFY(!window.window().isMinimized());
     }
 
     void windowFollowsMenuBarAndScreen()

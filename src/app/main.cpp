@@ -22,10 +22,8 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QLoggingCategory>
-#include <QTranslator>
 #include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
@@ -40,19 +38,6 @@ void openStandardStreams()
         if (::fcntl(stream, F_GETFD) == -1)
             (void)::open("/dev/null", O_RDWR); // takes the lowest number that is free
     }
-}
-
-/// Installs our texts and those of Qt's own controls in the user's language.
-void installCatalogues(QTranslator& ours, QTranslator& controls, const ApplicationBundle& bundle)
-{
-    const QString folder =
-        bundle.resourceFolder().value_or(QString()) + QStringLiteral("/translations");
-    if (!loadCatalogue(ours, folder, QLocale::system().uiLanguages()))
-        return;
-    QCoreApplication::installTranslator(&ours);
-    if (controls.load(QLocale(ours.language()), QStringLiteral("qtbase"), QStringLiteral("_"),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&controls);
 }
 
 /// Takes the icon of all windows from its file.
@@ -93,9 +78,10 @@ int main(int argc, char* argv[])
                             audio,    photos, alerts,    workspace};
     usePlatform(&services);
 
-    QTranslator ours;
-    QTranslator controls;
-    installCatalogues(ours, controls, bundle);
+    Catalogues catalogues;
+    (void)catalogues.install(bundle.resourceFolder().value_or(QString()) +
+                                 QStringLiteral("/translations"),
+                             QLocale::system().uiLanguages());
 
     SingleInstance instance;
     const SingleInstance::Claim claim = instance.claim(highscoreFolder(), activationToken);

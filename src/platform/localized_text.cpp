@@ -3,6 +3,8 @@
 #include "platform/localized_text.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <algorithm>
 #include <limits>
 
@@ -28,13 +30,19 @@ QString localizedCount(const char* key, std::int64_t count,
     return fillFormat(qtTrId(key, static_cast<int>(number)), arguments);
 }
 
-bool loadCatalogue(QTranslator& translator, const QString& folder, const QStringList& languages)
+bool Catalogues::install(const QString& folder, const QStringList& languages)
 {
-    for (QString tag : languages + QStringList{QStringLiteral("en")}) {
+    const QStringList tags = languages + QStringList{QStringLiteral("en")};
+    const bool isLoaded = std::ranges::any_of(tags, [&](QString tag) {
         // The loading itself drops one part of the name after the other, from the end.
         tag.replace(QLatin1Char('-'), QLatin1Char('_'));
-        if (translator.load(QStringLiteral("paircade_") + tag, folder, QStringLiteral("_")))
-            return true;
-    }
-    return false;
+        return m_ours.load(QStringLiteral("paircade_") + tag, folder, QStringLiteral("_"));
+    });
+    if (!isLoaded)
+        return false;
+    QCoreApplication::installTranslator(&m_ours);
+    if (m_controls.load(QLocale(m_ours.language()), QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&m_controls);
+    return true;
 }

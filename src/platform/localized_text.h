@@ -22,12 +22,20 @@
 [[nodiscard]] QString localizedCount(const char* key, std::int64_t count,
                                      std::initializer_list<FormatArgument> arguments);
 
-/// Loads from `folder` the first catalogue that the user's languages name, in
-/// their order, else the English one. False if not even that can be read; every
-/// text is then its key.
-///
-/// `languages` are tags as QLocale::uiLanguages() gives them ("de-AT", "de"). A
-/// catalogue is named by as much of a tag as it serves: "pt" all of Portuguese,
-/// "zh_Hans" what is written in simplified characters.
-[[nodiscard]] bool loadCatalogue(QTranslator& translator, const QString& folder,
-                                 const QStringList& languages);
+/// The texts of the game and those of Qt's own controls in one language, in use while
+/// this object lives.
+class Catalogues {
+public:
+    /// Installs from `folder` the first catalogue that `languages` name, in their order,
+    /// else the English one, and Qt's own in the same language. False if not even the
+    /// English one can be read; every text is then its key.
+    ///
+    /// `languages` are tags as QLocale::uiLanguages() returns them ("de-AT", "de"). A
+    /// catalogue is named by as much of a tag as it serves: "pt" all of Portuguese,
+    /// "zh_Hans" what is written in simplified characters.
+    [[nodiscard]] bool install(const QString& folder, const QStringList& languages);
+
+private:
+    QTranslator m_ours{};
+    QTranslator m_controls{};
+};
