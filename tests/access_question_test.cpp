@@ -196,6 +196,11 @@ private Q_SLOTS:
             [](AccessDialog& dialog) { QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape); });
         window.click(button);
         QCOMPARE(window.access().status, PhotoAuthorization::authorized);
+
+        delete pane.data();
+        window.choose(u"menu_preferences"_s); // to open them changes nothing
+        QVERIFY(window.child<QCheckBox>(u"paircade_album"_s).isChecked());
+        QCOMPARE(window.platform.openedFiles.paths.size(), 2);
     }
 
     void theStoreTrustsNoFile()

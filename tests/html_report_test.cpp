@@ -21,7 +21,7 @@ private Q_SLOTS:
     void thePageIsOpenedOnceItIsWritten()
     {
         const StagePlatform platform;
-        platform.writeHighscoreFile(encodeHighscores({{.playerName = u"Zoë"_s}}));
+        platform.writeHighscoreFile(encodeHighscores({{.playerName = u"Zoë"_s}, {}}));
         platform.defaults->setInteger(SettingsKeys::AmountCards, 9);
         platform.defaults->setInteger(SettingsKeys::AmountRounds, -5);
         MemoryGame game;
@@ -29,7 +29,7 @@ private Q_SLOTS:
         QDir data(platform.home.filePath(u"data"_s));
         const QString report = data.filePath(u"Paircade/highscores.html"_s);
         QByteArray page = contentsOf(report);
-        QVERIFY(page.contains("<td>Zoë</td>"));
+        QVERIFY(page.contains("<td>Zoë</td>") && page.contains("</tr>\n<tr\n"));
         QVERIFY(page.contains("<p class=\"subtitle\">Every stored result. Current settings: "
                               "layout\u00a06 of\u00a06, rounds:\u00a01.</p>"));
         QVERIFY(!page.contains("highscores_")); // every text was found

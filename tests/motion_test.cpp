@@ -189,7 +189,7 @@ private Q_SLOTS:
             QVERIFY(isShown<LeavingBoard>(window) && name.endsWith(u'b'));
             QVERIFY(!isShown<Celebration>(window)); // of the game before
             if (key == Qt::Key_unknown) {
-                doubleClick(window, window.child<QWidget>(u"startButton"_s));
+                clickTwice(window, window.child<QWidget>(u"startButton"_s));
             } else {
                 window.press(key);
                 window.repeat(key, u" "_s);
@@ -223,7 +223,7 @@ private Q_SLOTS:
         while (window.game().currentRound() == 1) {
             last = hiddenCard(window.game());
             window.clickCard(otherCard(window.game(), last, true));
-            doubleClick(window, window.card(last)); // its second half acts on nothing
+            clickTwice(window, window.card(last)); // its second half acts on nothing
         }
         // The last pair is seen, the first one goes, and a round is not celebrated.
         pass(0.31);
@@ -252,7 +252,7 @@ private:
         return found != nullptr && found->isVisible();
     }
 
-    static void doubleClick(GameWindow& window, const QWidget& widget)
+    static void clickTwice(GameWindow& window, const QWidget& widget)
     {
         QTest::mouseDClick(window.window().windowHandle(), Qt::LeftButton, {},
                            widget.mapTo(&window.window(), widget.rect().center()));

@@ -194,7 +194,7 @@ private Q_SLOTS:
         QTest::mouseRelease(handle, Qt::LeftButton, {}, from + QPoint(70, 0));
         QCOMPARE(stored("VolumeSound"), QByteArray::number(volume.value()));
 
-        volume.setFocus();
+        window.key(Qt::Key_V, Qt::AltModifier);
         window.key(Qt::Key_Home);
         QCOMPARE(stored("VolumeSound"), "0"_ba);
         window.wheel(volume, 1);
@@ -228,7 +228,15 @@ private Q_SLOTS:
         QCOMPARE(window.game().cardColumns(), 4);
         QVERIFY(window.decks().hasFocus());
         QCOMPARE(window.decks().currentText(), u"70s"_s);
+        const auto preview = [&window] {
+            const QWidget& strip = window.child<QWidget>(u"deckPreview"_s);
+            const QPoint corner = strip.mapTo(window.pane, QPoint());
+            const QPixmap pane = window.pane->screen()->grabWindow(window.pane->winId());
+            return pane.copy(QRect(corner, strip.size())).toImage();
+        };
+        const QImage before = preview();
         window.key(Qt::Key_Down); // for the next round
+        QTRY_VERIFY(preview() != before);
         QCOMPARE(stored("CardDeck"), "80s"_ba);
 
         // Meanwhile the steppers are locked.

@@ -112,8 +112,9 @@ private Q_SLOTS:
             QTimer::singleShot(1500, qApp, [&] {
                 open = faceUpCards(game());
                 whenAlerted([&](QMessageBox& box) {
-                    told = box.text() + u'|' + box.informativeText() + u'|' +
-                           box.buttons().constFirst()->text();
+                    GameWindow::repeatOn(box, Qt::Key_Return); // of a key that is still held
+                    told = u"closed "_s.repeated(!box.isVisible()) + box.text() + u'|' +
+                           box.informativeText() + u'|' + box.buttons().constFirst()->text();
                 });
             });
             if (isReport)
