@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "decks/bundle_deck.h"
+#include "decks/deck_look.h"
 #include "decks/deck_name.h"
 #include "platform/application_bundle.h"
 #include "stage/files.h"
@@ -104,6 +105,9 @@ private Q_SLOTS:
                 QVERIFY2(!picture.image.hasAlphaChannel(), qPrintable(picture.name));
                 m_lights[deck].push_back(lightOf(picture.image));
             }
+            for (const QString& name : deckLook(deck).fanPictures)
+                QVERIFY2(std::ranges::count(m_decks[deck], name, &CardPicture::name) == 1,
+                         qPrintable(deck + u": "_s + name));
         }
         QCOMPARE(m_decks.size(), std::size_t{4});
     }

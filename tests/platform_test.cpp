@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/user_defaults.h"
+#include "platform/workspace.h"
 #include "settings/default_settings.h"
 #include "stage/files.h"
 #include "support/rows.h"
 
+#include <QDesktopServices>
 #include <QLocale>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <map>
 
 using namespace Qt::StringLiterals;
@@ -139,7 +142,20 @@ private Q_SLOTS:
         }
     }
 
+    void aFileIsOpenedByItsPath()
+    {
+        QDesktopServices::setUrlHandler(u"file"_s, this, "noteUrl");
+        const QString path = m_home->filePath(u"Zoë's #1 100%.html"_s);
+        Workspace().openFile(path);
+        QDesktopServices::unsetUrlHandler(u"file"_s);
+        QCOMPARE(m_opened.toLocalFile(), path);
+    }
+
+public Q_SLOTS:
+    void noteUrl(const QUrl& url) { m_opened = url; }
+
 private:
+    QUrl m_opened{};
     std::optional<QTemporaryDir> m_home{};
     QString m_file{};
 };
