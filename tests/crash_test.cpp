@@ -246,22 +246,6 @@ private Q_SLOTS:
         createDefaultSettings(unread);
         QCOMPARE(contentsOf(settings), "[General]\nAmountCards=4\n");
     }
-
-    void aFolderThatVanishesIsMadeAnew()
-    {
-        Game game(30);
-        const QString folder = QFileInfo(game.platform.highscoreFile()).path();
-        const QByteArray before = game.platform.readHighscoreFile();
-        QVERIFY(QDir().rename(folder, folder + u"-taken"_s));
-        game.game.endGame();
-        QCOMPARE(game.game.bestVersusScores().size(), 1U);
-        QVERIFY(game.isShown());
-        QCOMPARE(contentsOf(folder + u"-taken/highscores.json"_s), before);
-        // Put back, the old results are there again.
-        QVERIFY(QDir(folder).removeRecursively() && QDir().rename(folder + u"-taken"_s, folder));
-        game.game.reloadHighscoresForCurrentSettings();
-        QCOMPARE(game.game.bestVersusScores().size(), MemoryGame::maxHighscoreEntries);
-    }
 };
 
 int main(int argc, char* argv[])

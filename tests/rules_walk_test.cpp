@@ -297,6 +297,7 @@ private:
         same("isCheckingPair", m_game->isCheckingPair(), m_rules.isCheckingPair);
         const QTimer* const clock = m_game->timer();
         same("timer", clock && clock->isActive() ? clock->interval() : 0, m_rules.timer ? 1000 : 0);
+        same("precise timer", !clock || clock->timerType() == Qt::PreciseTimer, true);
         same("timerStarted", m_game->timerStarted(), m_rules.timerStarted);
         same("delayed steps", int(waitingTimers().size()), int(m_rules.delayed.has_value()));
         for (const QTimer* const timer : waitingTimers())

@@ -9,7 +9,6 @@
 #include <list>
 #include <map>
 #include <sys/syscall.h>
-#include <thread>
 
 using namespace Qt::StringLiterals;
 using Claim = SingleInstance::Claim;
@@ -54,20 +53,6 @@ private Q_SLOTS:
         QVERIFY(QFile::link(m_home->path(), m_home->filePath(u"link"_s)));
         QVERIFY(Program(m_home->filePath(u"link"_s)).endsWell());
         QCOMPARE(tokens, (QByteArrayList{"token 1 x", ""}));
-    }
-
-    void aHolderThatJustLeavesIsSucceeded()
-    {
-        // It does not listen, and goes in a moment.
-        QLockFile lock(m_data + u"/lock"_s);
-        QVERIFY(lock.tryLock());
-        std::thread leaving([&lock] {
-            QTest::qSleep(700);
-            lock.unlock();
-        });
-        const Claim made = SingleInstance().claim(m_data, {});
-        leaving.join();
-        QCOMPARE(made, Claim::isOurs);
     }
 
     void whereLocksAreUnknownALivingGameIsStillFound()
