@@ -8,8 +8,8 @@
 #include <QCursor>
 #include <QFile>
 #include <QGuiApplication>
-#include <algorithm>
 #include <cstring>
+#include <map>
 #include <utility>
 
 using PhotoMessages::Frame;
@@ -103,20 +103,20 @@ void PhotoFetch::list(Kind request, QByteArrayView content,
 PhotoAlbums PhotoFetch::albums(Counted counted)
 {
     const Kind request = counted == Counted::no ? Kind::albums : Kind::countedAlbums;
-    PhotoAlbums albums;
-    list(request, {}, [&albums](const Frame& reply) {
-        if (reply.kind != Kind::album || reply.content.size() < 2 ||
-            albums.list.size() == mostAlbums)
+    // Keeps the order of albums with equal titles.
+    std::multimap<QString, PhotoAlbum, decltype(&sortsBefore)> byTitle(&sortsBefore);
+    list(request, {}, [&byTitle](const Frame& reply) {
+        if (reply.kind != Kind::album || reply.content.size() < 2 || byTitle.size() == mostAlbums)
             return false;
         const QByteArray folder = reply.content.sliced(1);
-        albums.list.push_back(
-            {QFile::decodeName(folder), reply.content.front() != '\0' ? 1 : 0, folder});
+        const QString title = QFile::decodeName(folder);
+        byTitle.insert({title, {title, reply.content.front() != '\0' ? 1 : 0, folder}});
         return true;
     });
-    const bool isSorted = withinMemory([&albums] {
-        std::ranges::stable_sort(
-            albums.list, sortsBefore,
-            [](const PhotoAlbum& album) -> const QString& { return *album.localizedTitle; });
+    PhotoAlbums albums;
+    const bool isSorted = withinMemory([&] {
+        for (const auto& [title, album] : byTitle)
+            albums.list.push_back(album);
     });
     m_isListComplete = m_isListComplete && isSorted;
     albums.isComplete = m_isListComplete;
