@@ -9,6 +9,8 @@
 #include <QAction>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QScreen>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -164,10 +166,10 @@ private:
     {
         const Window shown = window(u"80s"_s, 6);
         if (isSmall)
-            shown->window().setFixedSize(1024, 560);
+            shown->window().windowHandle()->setScreen(QGuiApplication::screens().constLast());
         else
             shown->child<QAction>(u"menu_full_screen"_s).trigger();
-        QTest::qWait(100);
+        QTest::qWait(600); // the window follows its screen
         const QString kind = isSmall ? u"small-"_s : u"full-"_s;
         keep(*shown, kind + u"start"_s);
         startSolo(*shown);
