@@ -159,6 +159,10 @@ private Q_SLOTS:
         window.clickCard(second);
         pass(0.46);
         QVERIFY(areBoth(front, u"pair found"_s));
+        // Both are painted whole, though no frame showed the end of their turn.
+        QScreen& screen = *window.window().screen();
+        QCOMPARE(screen.grabWindow(window.window().winId()).toImage(),
+                 window.window().grab().toImage().convertToFormat(QImage::Format_RGB32));
         window.platform.defaults->setInteger(SettingsKeys::RemoveMatch, meanwhile);
         pass(isMotionReduced ? 0.13 : 0.33);
         QVERIFY(areBoth(front, u"pair found"_s));

@@ -103,13 +103,18 @@ void GameBoard::nextFrame()
 
 void GameBoard::followFrame()
 {
-    // What is painted anew is where cards were and where they come to.
+    // Repaint where cards were and where they are now. A card that has come to rest may
+    // have skipped frames, and be larger than it was in the last one.
     QRegion moving;
+    QRegion rested;
     for (MemoryCardView* const tile : m_tiles) {
+        const QRectF square = place(*tile);
         if (tile->face().isMoving())
-            moving += tile->face().reach(place(*tile));
+            moving += tile->face().reach(square);
+        else if (m_moved.contains(square.center().toPoint()))
+            rested += tile->face().reach(square);
     }
-    update(moving + m_moved);
+    update(moving + m_moved + rested);
     const bool isPairHeld =
         std::ranges::any_of(m_removalTimes, [](const auto& time) { return time.has_value(); });
     if (moving.isEmpty() && !isPairHeld)
