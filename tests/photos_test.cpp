@@ -97,7 +97,11 @@ private Q_SLOTS:
         PhotoFetch files = fetch(m_made.path());
         makePipe(m_made.filePath(u"bad/pipe.jpg"_s));
         QFile::link(u"/"_s, m_made.filePath(u"bad/became-a-link"_s));
-        PhotoAssets paths{"good/../good/plain.jpg", "bad/vanished.jpg", "bad", "",
+        PhotoAssets paths{"good/../good/plain.jpg",
+                          "bad/vanished.jpg",
+                          "bad",
+                          "",
+                          "good/plain.jpg\0"_ba,
                           "bad/became-a-link" + QFile::encodeName(m_made.path()) +
                               "/good/plain.jpg"};
         for (const QString& file :
