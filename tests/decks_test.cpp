@@ -197,6 +197,8 @@ private Q_SLOTS:
         });
         QCOMPARE(names.join(u' '), u"10 9 A Ä b c.d c D e linked"_s);
         QCOMPARE(said, QByteArray());
+        QCOMPARE(outputOf([&] { QVERIFY(loadBundleDeck(bundle, u""_s).empty()); }),
+                 "CardDeck ist leer\n");
         // Whatever the name, one line.
         QCOMPARE(
             outputOf([&] { QVERIFY(loadBundleDeck(bundle, u"a\nb\r%s"_s).empty()); }),

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Paircade authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Plays in the real window with mouse and keyboard.
+#include "platform/user_folders.h"
 #include "settings/settings_keys.h"
 #include "stage/game_window.h"
 
@@ -83,7 +84,7 @@ private Q_SLOTS:
 
     void arrowsStopAtTheEdges()
     {
-        m_window->platform.defaults->setInteger(SettingsKeys::AmountCards, 6); // from this game on
+        UserDefaults(settingsFile()).setInteger(SettingsKeys::AmountCards, 6); // by another program
         m_window->startGame();
         const QList<std::pair<Qt::Key, int>> path{
             {Qt::Key_Left, 0},  {Qt::Key_Up, 0},    {Qt::Key_Right, 1}, {Qt::Key_Down, 9},

@@ -4,6 +4,7 @@
 
 #include "game/memory_game.h"
 #include "game/rules/card_layout.h"
+#include "highscores/highscore_lists.h"
 #include "platform/localized_text.h"
 #include "settings/settings_keys.h"
 
@@ -29,7 +30,6 @@ public:
     HighscoreEntries file{}, removed{};
     Miss delayed{}, due{}; ///< Waiting for its time, or in the main queue.
     QStringList queuedAlerts{}, alerts{};
-    QByteArray log{}, deckFolder{};    ///< The folder stands before a deck's name in the log.
     int dealtPairs = 0;                ///< Of the board that the real game has to show.
     std::vector<Member> assignments{}; ///< Since the last look, in order.
 
@@ -109,10 +109,6 @@ public:
         if (isAlbum || isLibrary)
             queuedAlerts << (localizedText("iphoto_access_denied") + u'|' +
                              localizedText("iphoto_access_denied_info") + u"|OK"_s);
-        else if (deck.isEmpty())
-            log += "CardDeck ist leer\n";
-        else if (!deckSizes.contains(deck))
-            log += "Ordnerinhalt konnte nicht gelesen werden: " + deckFolder + deck.toUtf8() + '\n';
         if (deckSizes.value(deck) < pairs) {
             const QString message =
                 isAlbum     ? localizedText("iphoto_not_enough_images_in_album", {pairs})
@@ -232,27 +228,16 @@ public:
     /// The lists of the current settings and mode, from the file.
     void updateLists()
     {
-        using Entry = const HighscoreEntry&;
-        const auto best = [this](const QString& modeOfList, auto key) {
-            HighscoreEntries kept = file;
-            std::erase_if(kept, [&](Entry entry) {
-                return entry.amountCards != layout() || entry.amountRounds != rounds() ||
-                       entry.gameMode != mode() || modeOfList != mode();
-            });
-            std::ranges::stable_sort(kept, {}, key);
-            kept.resize(std::min<std::size_t>(kept.size(), 10));
-            return kept;
-        };
-        const auto time = [](Entry e) { return std::pair(e.elapsedSeconds, e.failedAttempts); };
-        const auto failures = [](Entry e) { return std::pair(e.failedAttempts, e.elapsedSeconds); };
-        const auto lead = [](Entry e) {
-            return std::pair(-std::abs(*e.firstPlayerScore - *e.secondPlayerScore),
-                             e.elapsedSeconds);
-        };
+        HighscoreEntries kept = file;
+        std::erase_if(kept, [this](const HighscoreEntry& entry) {
+            return entry.amountCards != layout() || entry.amountRounds != rounds() ||
+                   entry.gameMode != mode();
+        });
         if (isVersusMode)
-            assign(bestVersusScores, best(u"versus"_s, lead), Member::bestVersusScores);
-        assign(bestTimeScores, best(u"solo"_s, time), Member::bestTimeScores);
-        assign(bestFailureScores, best(u"solo"_s, failures), Member::bestFailureScores);
+            assign(bestVersusScores, rankByMargin(std::exchange(kept, {}), 10),
+                   Member::bestVersusScores);
+        assign(bestTimeScores, rankByTime(kept, 10), Member::bestTimeScores);
+        assign(bestFailureScores, rankByFailures(kept, 10), Member::bestFailureScores);
         if (!isVersusMode)
             assign(bestVersusScores, {}, Member::bestVersusScores);
     }
