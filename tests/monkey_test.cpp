@@ -15,7 +15,6 @@
 #include <QRandomGenerator>
 #include <QWindow>
 #include <csignal>
-#include <map>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -48,16 +47,10 @@ class Monkey : public QObject {
     Q_OBJECT
 
 public:
-    Monkey(std::map<QString, int>& seen, qint64 milliseconds)
-        : m_seen(seen)
+    Monkey(int& actions, qint64 milliseconds)
+        : m_actions(actions)
         , m_window([this](StagePlatform& platform) { prepare(platform); })
     {
-        connect(&m_window.game(), &MemoryGame::changed, this, [this](MemoryGame::Member member) {
-            if (member == MemoryGame::Member::isGameActive && m_window.game().isGameActive())
-                ++m_seen[u"games of %1 pairs"_s.arg(m_window.game().pairsPerRound())];
-            if (member == MemoryGame::Member::gameCompleted && m_window.game().gameCompleted())
-                ++m_seen[u"games won"_s];
-        });
         QTimer::singleShot(milliseconds, this, [] { QCoreApplication::exit(0); });
         next();
     }
@@ -122,10 +115,8 @@ private:
             play();
         else if (dice < 600)
             point(*top);
-        else if (dice < 950)
-            press(*top, key());
         else if (dice < 970)
-            turnWheel(*top);
+            press(*top, key());
         else if (dice < 996)
             disturb(*top);
         else
@@ -135,7 +126,7 @@ private:
     void note(const QString& what)
     {
         trail = trail.mid(trail.size() - 40) << what;
-        ++m_seen[u"actions"_s];
+        ++m_actions;
     }
 
     /// Something sensible: a game goes on, or one is started.
@@ -163,7 +154,6 @@ private:
             target = oneOf(children);
         const QPoint place = target->mapTo(&top, placeIn(*target));
         note(QLatin1String(target->metaObject()->className()) + u' ' + target->objectName());
-        ++m_seen[u"clicks in a "_s + QLatin1String(top.metaObject()->className())];
         const QPointer<QWindow> window = top.windowHandle();
         const auto button = draw(12) ? Qt::LeftButton : Qt::RightButton;
         if (draw(8) == 0)
@@ -178,13 +168,6 @@ private:
     static QPoint placeIn(const QWidget& widget)
     {
         return {draw(std::max(1, widget.width())), draw(std::max(1, widget.height()))};
-    }
-
-    void turnWheel(QWidget& top)
-    {
-        note(u"wheel"_s);
-        QWidget* const target = oneOf(top.findChildren<QWidget*>() << &top);
-        m_window.wheel(*target, draw(2) ? 1 : -1);
     }
 
     QKeyCombination key()
@@ -241,20 +224,18 @@ private:
              [&] { platform.defaults->setString(SettingsKeys::CardDeck, oneOf(decks)); }},
             {u"second start"_s, [&] { m_window.delegate.activate(); }},
             {u"alert"_s, [&] { m_window.game().showLocalizedAlert("enter_name"); }},
-            {u"paint"_s, [&] { m_window.window().grab(); }},
             {u"close"_s, [&] { (void)(&top == &m_window.window() || top.close()); }},
         });
     }
 
     void leave()
     {
-        ++m_seen[u"ends of the program"_s];
         doOneOf({{u"SIGTERM"_s, [] { (void)std::raise(SIGTERM); }},
                  {u"quit"_s, [this] { press(m_window.window(), Qt::CTRL | Qt::Key_Q); }},
                  {u"leave"_s, [this] { m_window.window().close(); }}});
     }
 
-    std::map<QString, int>& m_seen;
+    int& m_actions;
     GameWindow m_window;
     RealPhotos m_photos{m_window.platform, m_window.alerts, // the decks being albums
                         m_window.resources() + u"/Cards"_s};
@@ -279,7 +260,8 @@ private Q_SLOTS:
         bool isSet = false;
         const int asked = qEnvironmentVariableIntValue("PAIRCADE_SECONDS", &isSet);
         const QDeadlineTimer end(std::chrono::seconds(isSet ? asked : 5));
-        std::map<QString, int> seen;
+        int actions = 0;
+        int starts = 0;
         for (const int signal : {SIGSEGV, SIGABRT, SIGALRM})
             (void)std::signal(signal, tellAndDie);
         const QtMessageHandler before = qInstallMessageHandler(complain);
@@ -289,14 +271,14 @@ private Q_SLOTS:
             log += outputOf([&] {
                 const Termination termination;
                 // An end in a while, so that each layout and setting has its turn.
-                Monkey monkey(seen, std::min<qint64>(end.remainingTime(), 8000));
+                Monkey monkey(actions, std::min<qint64>(end.remainingTime(), 8000));
                 QApplication::exec();
                 StagePlatform& platform = monkey.window().platform;
                 monkey.window().delegate.applicationWillTerminate();
                 if (platform.defaults->integer(SettingsKeys::GameIsActive) != 0)
                     complaints << u"a game is left running"_s;
             });
-            ++seen[u"starts"_s];
+            ++starts;
         }
         ::alarm(0);
         qInstallMessageHandler(before);
@@ -309,10 +291,10 @@ private Q_SLOTS:
             if (!described.match(line).hasMatch())
                 complaints << line;
         }
-        qInfo() << seen;
+        qInfo() << actions << "actions," << starts << "starts";
         QVERIFY2(complaints.isEmpty(),
                  qPrintable(complaints.join(u'\n') + u"\nafter "_s + trail.join(u", "_s)));
-        QVERIFY(seen[u"actions"_s] > 10); // however busy the machine
+        QVERIFY(actions > 10); // however busy the machine
     }
 };
 
