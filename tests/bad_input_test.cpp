@@ -49,8 +49,6 @@ private Q_SLOTS:
         };
         row("garbage as settings", 1, false,
             [](auto& p) { settings(p, "[[]\n=\n%zz%0\n\xff\xfe[General\nAmountCards\n"); });
-        row("binary settings of 5 MB", 1, false,
-            [](auto& p) { settings(p, QByteArray("\x7f\0=\n\\x\xff@", 7).repeated(700'000)); });
         row("a folder of settings that cannot be written", 1, true,
             [](auto&) { forbid(QFileInfo(settingsFile()).path(), 0555); });
         row("a folder of results that cannot be written", untouched, false, forbidden(0644, 0555));
@@ -58,8 +56,6 @@ private Q_SLOTS:
         row("results that cannot be read", 1, false, forbidden(0, 0755));
         row("write-protected results", 4, false, forbidden(0444, 0755));
         row("a pipe as results", untouched, false, [=](auto& p) { makePipe(results(p)); });
-        row("a device as results", untouched, false,
-            [=](auto& p) { QFile::link(u"/dev/zero"_s, results(p)); });
         row("results of 4 TB", untouched, false, [=](auto& p) {
             p.writeHighscoreFile("[");
             QFile::resize(results(p), qint64{1} << 42);

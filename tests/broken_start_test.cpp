@@ -19,21 +19,15 @@ private Q_SLOTS:
         const Rows<QByteArray, QStringList> row{"breakIt", "stays"};
         const QString settings = u"config/Paircade/Paircade.conf"_s;
         const QString results = u"data/Paircade/highscores.json"_s;
-        const QString lock = u"data/Paircade/lock"_s;
         row("settings that cannot be written", "chmod 444 $settings", {settings});
         row("no folder of settings, and none can be made", "rm -r config/*; chmod 555 config",
             {u"config"_s, settings});
         row("no folder of results, and none can be made", "rm -r data/*; chmod 555 data",
             {u"data"_s, results});
         row("a pipe as settings", "rm $settings; mkfifo $settings", {settings});
-        row("a pipe as the settings' lock", "mkfifo $settings.lock",
-            {settings, settings + u".lock"_s});
-        row("a file as the folder of settings", "rm -r config; echo > config", {u"config"_s});
-        row("a file as the folder of results", "rm -r data; echo > data", {u"data"_s});
         row("a lock cut short by a crash", ": >data/Paircade/lock", {results});
         row("a lock from before the machine was renamed",
             "printf '1\\npaircade\\nelsewhere\\n' >data/Paircade/lock", {results});
-        row("a pipe as the lock", "mkfifo data/Paircade/lock", {results, lock});
         row("no runtime folder", "rm -r runtime; echo >runtime", {results, u"runtime"_s});
         row("standard streams closed",
             "mv bin/paircade bin/it;"
