@@ -78,8 +78,6 @@ private Q_SLOTS:
                                                                       "otherwise", "wishes"};
         row("dark", appearance, u"color-scheme"_s, 1U, 0U, u"dark"_s);
         row("light", appearance, u"color-scheme"_s, 2U, 0U, {});
-        row("a wish of the future", appearance, u"color-scheme"_s, 7U, 0U, {});
-        row("no number", appearance, u"color-scheme"_s, u"dark"_s, 0U, {});
         row("contrast", appearance, u"contrast"_s, 1U, 0U, u"contrast"_s);
         row("the older way", oldContrast, u"high-contrast"_s, true, false, u"contrast"_s);
         row("stillness", appearance, u"reduced-motion"_s, 1U, 0U, u"stillness"_s);
