@@ -41,6 +41,7 @@ private Q_SLOTS:
         GameWindow window;
         const QSize size = GameWindow::sizeFor(cardLayouts.front());
         const QPoint place(20, 30); // where the player has put it
+        QTest::qWait(650);          // the window awaits its frame no longer
         window.window().move(place);
         window.window().menuBar()->updateGeometry();
         QTest::qWait(20);
